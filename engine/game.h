@@ -1,0 +1,68 @@
+#pragma once
+// One board's game: generation, set-up, drag and drop, checking, clock and
+// show solution. Plain data plus the board's named procedures; the screen is
+// reached only through BoardView and randomness only through RandomSource.
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "engine/board_table.h"
+#include "engine/board_view.h"
+#include "engine/random_source.h"
+
+namespace engine {
+
+// The shared options the procedures read (on/off values count as on only when 1).
+struct Options {
+    std::int16_t level = 0;
+    std::int16_t playsound = 0;
+    std::int16_t timerson = 0;
+};
+
+// Window outer size, for the drag's edge tests.
+struct WindowSize {
+    float width = 15360.0f;
+    float height = 11520.0f;
+};
+
+class Game {
+public:
+    Game(int boardsize, BoardView& view, RandomSource& rnd);
+
+    const BoardTable& table() const { return *table_; }
+    int n() const { return table_->n; }
+
+    // The named procedures of a board.
+    void setsolution();
+    void setstart(const Options& opt);
+    void checkanswer(const Options& opt);
+    void timer1Tick();       // the game clock
+    void timer2Tick(const Options& opt);  // the check delay: checkanswer, then Timer2 off
+    void showsoln();
+    void startAgain(const Options& opt);  // "Start again": givens back on, others home
+
+    // Drag and drop of piece k. button 1 = left alone; x, y in twips relative
+    // to the piece. pieceMouseMove returns true when the hand pointer should show.
+    bool pieceMouseMove(int k, int button, float x, float y, WindowSize window);
+    void pieceMouseUp(int k, const Options& opt);
+    int coveredCells() const;
+
+    // State, indexed [x][y] for grids (x the column); all 16-bit as on the board.
+    std::vector<std::vector<std::int16_t>> solution;  // [x][y]
+    std::vector<std::int16_t> picorder;               // index 1..N used, [0] unused
+    std::int16_t mirrored = 0;
+    std::int16_t turns = 0;
+    std::int16_t templateNumber = 0;  // 4x4: 1 or 2
+    std::array<std::int16_t, 6> swapflags{};
+    std::vector<std::vector<std::int16_t>> given;   // [x][y]
+    std::vector<std::vector<std::int16_t>> answer;  // [x][y]
+    std::int16_t seconds = 0;
+    std::int16_t pattern = 0;  // last forced-givens pattern drawn
+
+private:
+    const BoardTable* table_;
+    BoardView& view_;
+    RandomSource& rnd_;
+};
+
+}  // namespace engine
