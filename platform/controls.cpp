@@ -1,0 +1,153 @@
+#include "platform/controls.h"
+
+#include <QPainter>
+
+#include "platform/files.h"
+
+namespace platform {
+
+QColor bgr(std::uint32_t value) {
+    return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF);
+}
+
+QFont designFont(const QString& family, double points, bool bold) {
+    QFont font;
+    QStringList families{family};
+    if (family.startsWith(QLatin1String("Arial"))) families << QStringLiteral("Liberation Sans");
+    families << QStringLiteral("DejaVu Sans");
+    font.setFamilies(families);
+    font.setPixelSize(pointsToPixels(points));
+    font.setBold(bold);
+    font.setStyleStrategy(QFont::PreferAntialias);
+    return font;
+}
+
+int buttonState(Qt::MouseButtons buttons) {
+    int state = 0;
+    if (buttons & Qt::LeftButton) state |= 1;
+    if (buttons & Qt::RightButton) state |= 2;
+    if (buttons & Qt::MiddleButton) state |= 4;
+    return state;
+}
+
+int shiftState(Qt::KeyboardModifiers modifiers) {
+    int state = 0;
+    if (modifiers & Qt::ShiftModifier) state |= 1;
+    if (modifiers & Qt::ControlModifier) state |= 2;
+    if (modifiers & Qt::AltModifier) state |= 4;
+    return state;
+}
+
+void PictureBox::loadPicture(const std::string& relativePath) {
+    setPicture(platform::loadPicture(relativePath));
+}
+
+void PictureBox::setPicture(const QPixmap& picture) {
+    picture_ = picture;
+    update();
+}
+
+void PictureBox::setFramed(bool framed) {
+    framed_ = framed;
+    update();
+}
+
+void PictureBox::setFrameColor(const QColor& color) {
+    frameColor_ = color;
+    update();
+}
+
+PictureBox* PictureBox::cloneHidden() const {
+    auto* copy = new PictureBox(parentWidget());
+    copy->hide();
+    copy->setBounds(Left(), Top(), Width(), Height());
+    copy->picture_ = picture_;
+    copy->framed_ = framed_;
+    copy->frameColor_ = frameColor_;
+    copy->setCursor(cursor());
+    return copy;
+}
+
+void PictureBox::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    if (!picture_.isNull()) {
+        p.setRenderHint(QPainter::SmoothPixmapTransform);
+        p.drawPixmap(rect(), picture_);
+    }
+    if (framed_) {
+        p.setPen(QPen(frameColor_, 1));
+        p.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+}
+
+void Label::setLook(const LabelLook& look) {
+    look_ = look;
+    setFont(look.font);
+    setAlignment(look.alignment | Qt::AlignTop);
+    setWordWrap(look.wordWrap);
+    setFrameStyle(look.framed ? (QFrame::Box | QFrame::Plain) : QFrame::NoFrame);
+    setLineWidth(1);
+    setAutoFillBackground(!look.transparent);
+    setForeColor(look.foreColor);
+    setBackColor(look.backColor);
+}
+
+void Label::setForeColor(const QColor& c) {
+    look_.foreColor = c;
+    QPalette pal = palette();
+    pal.setColor(QPalette::WindowText, c);
+    setPalette(pal);
+}
+
+void Label::setBackColor(const QColor& c) {
+    look_.backColor = c;
+    QPalette pal = palette();
+    pal.setColor(QPalette::Window, c);
+    setPalette(pal);
+}
+
+Shape::Shape(QWidget* parent, const QColor& fill) : Placed<QWidget>(parent), fill_(fill) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void Shape::paintEvent(QPaintEvent*) {
+    QPainter(this).fillRect(rect(), fill_);
+}
+
+Frame::Frame(QWidget* parent) : Placed<QFrame>(parent) {
+    setAutoFillBackground(true);
+    setFrameStyle(QFrame::NoFrame);
+}
+
+void Frame::setBackColor(const QColor& c) {
+    back_ = c;
+    QPalette pal = palette();
+    pal.setColor(QPalette::Window, c);
+    setPalette(pal);
+}
+
+OptionButton::OptionButton(QWidget* parent) : Placed<QRadioButton>(parent) {
+    QObject::connect(this, &QRadioButton::toggled, [this](bool on) {
+        if (on && onSelect) onSelect();
+    });
+}
+
+CheckBox::CheckBox(QWidget* parent) : Placed<QCheckBox>(parent) {
+    QObject::connect(this, &QCheckBox::toggled, [this](bool) {
+        if (onChange) onChange();
+    });
+}
+
+void styleText(QWidget& w, const QColor& fore, const QColor& back, const QFont& font) {
+    w.setFont(font);
+    QPalette pal = w.palette();
+    pal.setColor(QPalette::WindowText, fore);
+    pal.setColor(QPalette::ButtonText, fore);
+    pal.setColor(QPalette::Text, fore);
+    pal.setColor(QPalette::Window, back);
+    pal.setColor(QPalette::Base, back);
+    w.setPalette(pal);
+    w.setAutoFillBackground(true);
+}
+
+}  // namespace platform

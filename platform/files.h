@@ -1,0 +1,26 @@
+#pragma once
+// The game names its data files by relative paths written with backslashes,
+// and writes the same folder as "Images\" in some places and "images\" in
+// others. These helpers find such files below the working directory without
+// regard to letter case, and load pictures and the hand cursor from them.
+#include <QCursor>
+#include <QPixmap>
+#include <QString>
+#include <optional>
+#include <string>
+
+namespace platform {
+
+// The existing file for a relative game path ("Images\dice\1-4x4.jpg"),
+// matched component by component ignoring case; nullopt when there is none.
+std::optional<QString> findGameFile(const std::string& relativePath);
+
+// A picture from a game path. A missing or unreadable file ends the program
+// after reporting it (fatalFileError). Pictures are cached by file.
+QPixmap loadPicture(const std::string& relativePath);
+
+// A pointer from a Windows cursor file (hot spot read from the file).
+// Missing or unreadable files end the program like pictures.
+QCursor loadCursor(const std::string& relativePath);
+
+}  // namespace platform

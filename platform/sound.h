@@ -1,0 +1,15 @@
+#pragma once
+// Sound effects: a WAV file by its relative game path, played in the
+// background. A new sound replaces one still playing. A missing or unplayable
+// file, or a machine without audio, is silent and never holds up the game.
+#include <functional>
+#include <string>
+
+namespace platform {
+
+void playSound(const std::string& relativePath);
+
+// Sees every sound the game asks for, played or not (tests listen here).
+void setSoundObserver(std::function<void(const std::string& path)> observer);
+
+}  // namespace platform

@@ -1,0 +1,26 @@
+#pragma once
+// A screen's timer: an interval in milliseconds and an on/off switch.
+// Switching on a timer that is already on keeps its running interval.
+#include <QTimer>
+#include <functional>
+
+namespace platform {
+
+class Timer {
+  public:
+    Timer(QObject* owner, int intervalMs);
+    void setEnabled(bool on);
+    bool Enabled() const { return timer_->isActive(); }
+    void setInterval(int ms) { timer_->setInterval(ms); }
+    int Interval() const { return timer_->interval(); }
+    // Runs the handler once, as a tick would (tests use this to skip waiting).
+    void tick() {
+        if (onTimer) onTimer();
+    }
+    std::function<void()> onTimer;
+
+  private:
+    QTimer* timer_;
+};
+
+}  // namespace platform

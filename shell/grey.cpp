@@ -1,0 +1,17 @@
+#include "shell/grey.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include "platform/controls.h"
+
+namespace shell {
+
+void Grey::Form_Load() {
+    setBackColor(platform::bgr(0x00D78731));
+    // Covers the whole screen even where no window manager maximizes it.
+    if (const QScreen* screen = QGuiApplication::primaryScreen()) setGeometry(screen->geometry());
+    setWindowState(Qt::WindowMaximized);
+}
+
+}  // namespace shell

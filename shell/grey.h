@@ -1,0 +1,14 @@
+#pragma once
+// The plain coloured backdrop that hides the desktop behind the game.
+#include "platform/form.h"
+
+namespace shell {
+
+class Grey : public platform::Form {
+  public:
+    static constexpr const char* kName = "Grey";
+    Grey() : Form(kName, platform::FormKind::Backdrop) {}
+    void Form_Load() override;
+};
+
+}  // namespace shell
