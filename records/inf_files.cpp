@@ -1,0 +1,195 @@
+#include "records/inf_files.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
+#include "records/latin1.h"
+
+namespace records {
+
+namespace {
+
+// One line of a file, without its line end; false at the end of the file.
+bool readLine(std::istream& in, std::string& line) {
+    if (!std::getline(in, line, '\n')) return false;
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    return true;
+}
+
+// Where field f (0..89, file order) of highscore.inf lives in the tables: five
+// records of 18 lines, nine times then nine names, in table order k =
+// size * 3 + level.
+struct Field {
+    int size;
+    int level;
+    int rank;
+    bool isName;
+};
+
+Field highscoreField(int f) {
+    constexpr int kTables = kSizes * kLevels;
+    const int rank = f / (2 * kTables);
+    const int inRecord = f % (2 * kTables);
+    const int k = inRecord % kTables;
+    return Field{k / kLevels, k % kLevels, rank, inRecord >= kTables};
+}
+
+void copyField(const FastestTimes& from, FastestTimes& to, int f) {
+    const Field at = highscoreField(f);
+    if (at.isName) {
+        to.bestname[at.size][at.level][at.rank] = from.bestname[at.size][at.level][at.rank];
+    } else {
+        to.besttime[at.size][at.level][at.rank] = from.besttime[at.size][at.level][at.rank];
+    }
+}
+
+bool writeAll(int fd, const std::string& bytes) {
+    const char* data = bytes.data();
+    std::size_t left = bytes.size();
+    while (left > 0) {
+        const ssize_t n = ::write(fd, data, left);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) return false;
+        data += n;
+        left -= static_cast<std::size_t>(n);
+    }
+    return true;
+}
+
+// Best effort: makes the rename itself survive a power cut. A folder that
+// cannot be synced does not make the save a failure, the file is in place.
+void syncFolderOf(const std::string& path) {
+    std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    if (folder.empty()) folder = ".";
+    const int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0) return;
+    ::fsync(fd);
+    ::close(fd);
+}
+
+// Writes the whole file next to path and renames it over path, so readers see
+// either the old file or the new one, never a part.
+bool replaceFile(const std::string& path, const std::string& bytes) {
+    const std::string temporary = path + ".tmp";
+    const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    if (fd < 0) return false;
+    const bool written = writeAll(fd, bytes) && ::fsync(fd) == 0;
+    const bool closed = ::close(fd) == 0;
+    if (!written || !closed || std::rename(temporary.c_str(), path.c_str()) != 0) {
+        ::unlink(temporary.c_str());
+        return false;
+    }
+    syncFolderOf(path);
+    return true;
+}
+
+void appendLine(std::string& out, std::string_view line) {
+    out.append(line);
+    out.append("\r\n");
+}
+
+}  // namespace
+
+bool loadLastGame(std::istream& in, LastGame& options) {
+    std::int16_t* const fields[kLastGameFields] = {&options.playsound, &options.timerson,
+                                                   &options.hidedesktop, &options.boardsize};
+    std::string line;
+    for (std::int16_t* field : fields) {
+        if (!readLine(in, line)) return false;
+        *field = timeFromText(line);
+    }
+    return true;
+}
+
+bool loadLastGame(const std::string& path, LastGame& options) {
+    std::ifstream in(path, std::ios::binary);
+    return in && loadLastGame(in, options);
+}
+
+bool loadHighscores(std::istream& in, FastestTimes& tables) {
+    tables.fieldsread = 0;
+    std::string line;
+    for (int f = 0; f < kHighscoreFields; ++f) {
+        if (!readLine(in, line)) return false;
+        const Field at = highscoreField(f);
+        if (at.isName) {
+            tables.bestname[at.size][at.level][at.rank] = latin1ToUtf8(line);
+        } else {
+            tables.besttime[at.size][at.level][at.rank] = timeFromText(line);
+        }
+        tables.fieldsread = f + 1;
+    }
+    return true;
+}
+
+bool loadHighscores(const std::string& path, FastestTimes& tables) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        tables.fieldsread = 0;
+        return false;
+    }
+    return loadHighscores(in, tables);
+}
+
+bool loadBoth(const std::string& lastgamePath, const std::string& highscorePath, LastGame& options,
+              FastestTimes& tables) {
+    return loadLastGame(lastgamePath, options) && loadHighscores(highscorePath, tables);
+}
+
+std::string lastGameText(const LastGame& options) {
+    std::string out;
+    for (std::int16_t value :
+         {options.playsound, options.timerson, options.hidedesktop, options.boardsize}) {
+        appendLine(out, std::to_string(value));
+    }
+    return out;
+}
+
+std::string highscoreText(const FastestTimes& tables) {
+    std::string out;
+    for (int f = 0; f < kHighscoreFields; ++f) {
+        const Field at = highscoreField(f);
+        if (at.isName) {
+            std::string name = utf8ToLatin1(tables.bestname[at.size][at.level][at.rank]);
+            std::replace_if(
+                name.begin(), name.end(), [](char c) { return c == '\r' || c == '\n'; }, '?');
+            appendLine(out, name);
+        } else {
+            appendLine(out, std::to_string(tables.besttime[at.size][at.level][at.rank]));
+        }
+    }
+    return out;
+}
+
+FastestTimes tablesToSave(const std::string& highscorePath, const FastestTimes& tables) {
+    FastestTimes toSave = tables;
+    const int received = std::max(tables.fieldsread, 0);
+    if (received >= kHighscoreFields) return toSave;
+
+    FastestTimes onDisk;
+    loadHighscores(highscorePath, onDisk);  // as far as the file goes
+    for (int f = received; f < onDisk.fieldsread; ++f) copyField(onDisk, toSave, f);
+    return toSave;
+}
+
+bool saveLastGame(const std::string& path, const LastGame& options) {
+    return replaceFile(path, lastGameText(options));
+}
+
+bool saveHighscores(const std::string& path, const FastestTimes& tables) {
+    return replaceFile(path, highscoreText(tables));
+}
+
+bool saveBoth(const std::string& lastgamePath, const std::string& highscorePath,
+              const LastGame& options, const FastestTimes& tables) {
+    return saveLastGame(lastgamePath, options) &&
+           saveHighscores(highscorePath, tablesToSave(highscorePath, tables));
+}
+
+}  // namespace records

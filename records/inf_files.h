@@ -1,0 +1,82 @@
+#pragma once
+// The game's two small text files: lastgame.inf (the options and the last
+// board size, 4 lines) and highscore.inf (the nine fastest-times tables, 90
+// lines). Every line ends with CR LF; numbers are plain decimals; names are
+// Latin-1 on disk and UTF-8 in memory.
+//
+// Reading, line by line: a line ends at LF, and a CR just before it (or at the
+// end of the file) is dropped, so files edited with LF-only line ends still
+// read. A last line without a line end still counts. A number line that is not
+// a 16-bit decimal reads as 0 (see timeFromText); a name is the whole line.
+//
+// Writing: a file is written to "<path>.tmp" in the same folder, flushed to
+// disk and renamed over the old file, so a failed or interrupted save leaves
+// the old file whole.
+#include <cstdint>
+#include <istream>
+#include <string>
+
+#include "records/fastest_times.h"
+
+namespace records {
+
+// The file names the game uses in its working directory.
+inline constexpr char kLastGameFile[] = "lastgame.inf";
+inline constexpr char kHighscoreFile[] = "highscore.inf";
+
+constexpr int kLastGameFields = 4;
+
+// The four saved options, in file order. level is never saved.
+struct LastGame {
+    std::int16_t playsound = 0;
+    std::int16_t timerson = 0;
+    std::int16_t hidedesktop = 0;
+    std::int16_t boardsize = 0;
+};
+
+// Loads read the fields in file order into the struct given and stop at the
+// end of the file: fields read before that keep their new values, the others
+// keep the values they had. They return true only when every field was read
+// (a missing or unreadable file reads no field). Anything after the last
+// field is ignored.
+bool loadLastGame(std::istream& in, LastGame& options);
+bool loadLastGame(const std::string& path, LastGame& options);
+
+// Also sets tables.fieldsread to the number of fields taken (0..90). Nothing
+// else is checked: tables out of order, or names beside empty entries, are
+// kept as read.
+bool loadHighscores(std::istream& in, FastestTimes& tables);
+bool loadHighscores(const std::string& path, FastestTimes& tables);
+
+// The title screen's start-up read: lastgame.inf, then highscore.inf only if
+// the first was complete. Returns true when both were complete; loadfailed is
+// its negation (1 when false).
+bool loadBoth(const std::string& lastgamePath, const std::string& highscorePath, LastGame& options,
+              FastestTimes& tables);
+
+// The exact bytes of each file.
+std::string lastGameText(const LastGame& options);
+// Characters of a name outside Latin-1, and CR or LF (which would split the
+// field in two), are written as '?'.
+std::string highscoreText(const FastestTimes& tables);
+
+// The tables a save writes to highscorePath. When the tables hold fewer than
+// 90 fields read from that file (tables.fieldsread; the start-up read failed
+// or never reached it), the fields they did not receive are taken from the
+// file on disk as far as it goes, so records the run never read are kept and a
+// short file is made whole. Fields the file does not have keep the tables'
+// values (empty at program start), so a run that started without the file
+// still writes its own tables.
+FastestTimes tablesToSave(const std::string& highscorePath, const FastestTimes& tables);
+
+// Single-file saves (each atomic as described above); true on success.
+bool saveLastGame(const std::string& path, const LastGame& options);
+bool saveHighscores(const std::string& path, const FastestTimes& tables);
+
+// The board's "Exit" save: lastgame.inf, then highscore.inf with
+// tablesToSave(highscorePath, tables). The first failure abandons the rest and
+// returns false; the caller carries on without a message either way.
+bool saveBoth(const std::string& lastgamePath, const std::string& highscorePath,
+              const LastGame& options, const FastestTimes& tables);
+
+}  // namespace records
