@@ -1,0 +1,245 @@
+#include "records/highscores.h"
+
+#include <cstdlib>
+#include <exception>
+#include <string>
+
+#include "platform/desktop.h"
+#include "shell/module1.h"
+
+namespace records {
+
+namespace {
+
+using platform::bgr;
+using platform::designFont;
+using platform::Label;
+using platform::LabelLook;
+
+// The window lies over a full-size board screen (11520 twips high), 15 twips
+// below its top edge.
+constexpr float kClientWidth = 15210, kClientHeight = 4050;
+constexpr float kBoardScreenHeight = 11520;
+constexpr float kBelowBoardTop = 15;
+
+constexpr float kFrameLefts[kLevels] = {180, 5190, 10200};
+constexpr float kFrameTop = 720, kFrameWidth = 4815, kFrameHeight = 2535;
+constexpr float kFirstRowTop = 600, kRowPitch = 360, kRowHeight = 360;
+constexpr float kNameLeft = 480, kNameWidth = 3480;
+constexpr float kTimeLeft = 3960, kTimeWidth = 960;
+constexpr float kNameBoxWidth = 3375, kNameBoxHeight = 405;
+// The box stands a little above the row so that it covers the empty name.
+constexpr float kNameBoxAboveRow = 60;
+constexpr int kMaxNameLength = 25;
+constexpr int kNameCopyIntervalMs = 100;
+
+const char* const kTitles[kSizes] = {"Pimbalo 4x4 Fastest Times", "Pimbalo 5x5 Fastest Times",
+                                     "Pimbalo 6x6 Fastest Times"};
+const char* const kLevelCaptions[kLevels] = {"Level 1", "Level 2", "Level 3"};
+
+QColor yellow() {
+    return bgr(0x0000FFFF);
+}
+QColor red() {
+    return bgr(0x000000FF);
+}
+QColor black() {
+    return bgr(0x00000000);
+}
+
+bool inRange(int value, int count) {
+    return value >= 0 && value < count;
+}
+int row(int level, int rank) {
+    return level * kRanks + rank;
+}
+
+LabelLook textLook(const QColor& fore, double points, Qt::Alignment alignment) {
+    LabelLook look;
+    look.foreColor = fore;
+    look.transparent = true;
+    look.alignment = alignment;
+    look.font = designFont(QStringLiteral("Arial"), points, true);
+    return look;
+}
+
+Label* makeLabel(QWidget* parent, const LabelLook& look, const std::string& caption, float left,
+                 float top, float width, float height) {
+    auto* label = new Label(parent);
+    label->setLook(look);
+    label->setCaption(caption);
+    label->setBounds(left, top, width, height);
+    return label;
+}
+
+// The number a time label's text starts with; text that is no number is 0.
+// The design text "88888" counts as a time, so it shows.
+double numericValue(const std::string& text) {
+    return std::strtod(text.c_str(), nullptr);
+}
+
+// The start-up goes on past a step that fails, so a damaged table or an odd
+// desktop never keeps the screen from opening.
+template <class Step>
+void skipOnError(Step step) {
+    try {
+        step();
+    } catch (const std::exception&) {
+    }
+}
+
+}  // namespace
+
+Highscores::Highscores()
+    : Form(kName, platform::FormKind::Overlay), Timer1(this, kNameCopyIntervalMs) {
+    buildLayout();
+    Timer1.onTimer = [this] { Timer1_Timer(); };
+}
+
+void Highscores::buildLayout() {
+    setClientSize(kClientWidth, kClientHeight);
+    setBackColor(red());
+
+    Label2 = makeLabel(this, textLook(yellow(), 20.25, Qt::AlignHCenter), kTitles[0], 0, 120, 15240,
+                       600);
+
+    LabelLook button = textLook(yellow(), 18, Qt::AlignHCenter);
+    button.transparent = false;
+    button.backColor = black();
+    button.framed = true;
+    Label3.wire = [this](int index, Label& label) {
+        label.on.click = [this, index] { Label3_Click(index); };
+    };
+    Label3.add(0, makeLabel(this, button, "Continue", 12960, 120, 1935, 495));
+
+    const LabelLook heading = textLook(yellow(), 12, Qt::AlignHCenter);
+    // Names and times are coloured yellow by the start-up, not by the design.
+    const LabelLook entry = textLook(black(), 12, Qt::AlignLeft);
+    for (int j = 0; j < kLevels; ++j) {
+        auto* frame = new platform::Frame(this);
+        frame->setBounds(kFrameLefts[j], kFrameTop, kFrameWidth, kFrameHeight);
+        frame->setBackColor(red());
+        frame->setFrameStyle(QFrame::Box | QFrame::Plain);
+        Frame1.add(j, frame);
+
+        Label6.add(j, makeLabel(frame, heading, kLevelCaptions[j], 120, 240, 5040, 360));
+        for (int r = 0; r < kRanks; ++r) {
+            const float top = kFirstRowTop + kRowPitch * r;
+            Label* name =
+                makeLabel(frame, entry, "Solo Play", kNameLeft, top, kNameWidth, kRowHeight);
+            Label* time = makeLabel(frame, entry, "88888", kTimeLeft, top, kTimeWidth, kRowHeight);
+            // Typed names are shown as typed, never read as markup.
+            name->setTextFormat(Qt::PlainText);
+            name->hide();
+            time->hide();
+            Label8.add(row(j, r), name);
+            Label9.add(row(j, r), time);
+        }
+
+        auto* box = new platform::TextBox(frame);
+        box->setBounds(kNameLeft, 0, kNameBoxWidth, kNameBoxHeight);
+        box->setFont(designFont(QStringLiteral("Arial"), 12, true));
+        box->setMaxLength(kMaxNameLength);
+        box->hide();
+        Text1.add(j, box);
+    }
+
+    Label1 = makeLabel(this, textLook(yellow(), 20.25, Qt::AlignHCenter),
+                       "Type your name in the box", 0, 3360, 15240, 600);
+    Label1->hide();
+}
+
+void Highscores::Form_Load() {
+    skipOnError([this] { placeWindow(); });
+    skipOnError([this] { fillTables(); });
+    skipOnError([this] { colourRows(); });
+}
+
+void Highscores::placeWindow() {
+    setLeft((platform::screenWidthTwips() - Width()) / 2);
+    setTop((platform::screenHeightTwips() - kBoardScreenHeight) / 2 + kBelowBoardTop);
+}
+
+// Only a known board size is filled; any other (a hand-edited lastgame.inf)
+// leaves the design texts.
+void Highscores::fillTables() {
+    const shell::Module1& m = shell::module1();
+    const int s = m.boardsize;
+    if (!inRange(s, kSizes)) return;
+    Label2->setCaption(kTitles[s]);
+    for (int r = 0; r < kRanks; ++r) {
+        for (int j = 0; j < kLevels; ++j) {
+            Label8(row(j, r)).setCaption(m.bestname[s][j][r]);
+            Label9(row(j, r)).setCaption(std::to_string(m.besttime[s][j][r]));
+        }
+    }
+}
+
+// Empty entries (time 0) show an empty name and no time.
+void Highscores::colourRows() {
+    for (int k = 0; k < kLevels * kRanks; ++k) {
+        Label8(k).setForeColor(yellow());
+        Label9(k).setForeColor(yellow());
+        Label8(k).show();
+        Label9(k).setVisible(numericValue(Label9(k).Caption()) > 0);
+    }
+}
+
+bool Highscores::nameEntryOpen() const {
+    const int level = shell::module1().level;
+    return inRange(level, kLevels) && Text1(level).Visible();
+}
+
+void Highscores::copyTypedName() {
+    shell::Module1& m = shell::module1();
+    if (!inRange(m.boardsize, kSizes) || !inRange(m.level, kLevels) || !inRange(m.newrank, kRanks))
+        return;
+    m.bestname[m.boardsize][m.level][m.newrank] = Text1(m.level).Text();
+}
+
+void Highscores::Label3_Click(int index) {
+    if (index != 0) return;
+    // The last keys may have come after the latest copy.
+    if (nameEntryOpen()) copyTypedName();
+    platform::screens::unload(kName);
+}
+
+void Highscores::Timer1_Timer() {
+    copyTypedName();
+}
+
+Highscores& highscores() {
+    if (!platform::screens::isRegistered(Highscores::kName)) registerScreens();
+    return platform::screens::get<Highscores>(Highscores::kName);
+}
+
+void registerScreens() {
+    platform::screens::registerScreen(Highscores::kName, [] { return new Highscores; });
+}
+
+void openForNameEntry() {
+    const shell::Module1& m = shell::module1();
+    if (!inRange(m.level, kLevels) || !inRange(m.newrank, kRanks)) return;
+
+    // A screen still open for viewing was filled before this time was ranked
+    // and wears the board's colour: start it afresh.
+    platform::screens::unload(Highscores::kName);
+    Highscores& screen = highscores();
+    platform::TextBox& box = screen.Text1(m.level);
+    box.setTop(screen.Label8(row(m.level, m.newrank)).Top() - kNameBoxAboveRow);
+    box.show();
+    screen.Label1->show();
+    screen.Timer1.setEnabled(true);
+    screen.Show();
+    // The box is the only control that takes the keyboard, so typing goes in at once.
+    box.setFocus();
+}
+
+void openForViewing(const QColor& boardColour) {
+    Highscores& screen = highscores();
+    for (int j = 0; j < kLevels; ++j) screen.Frame1(j).setBackColor(boardColour);
+    screen.setBackColor(boardColour);
+    screen.Show();
+}
+
+}  // namespace records
