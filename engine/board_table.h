@@ -31,20 +31,24 @@ enum class MarkerRule {
 };
 
 struct BoardTable {
-    int n;                 // 4, 5 or 6
-    int boardsize;         // 0, 1 or 2
-    int regionSum;         // n(n+1)/2
+    int n;          // 4, 5 or 6
+    int boardsize;  // 0, 1 or 2
+    int regionSum;  // n(n+1)/2
     // Templates, row by row; letter 'a' stands for picorder(1).
     std::vector<std::vector<std::string>> templates;
     Rotation rotation;
-    int turnsBase;         // added to Int(4*Rnd): 0 on 4x4, 1 on 5x5
-    int maskTurnsExtra;    // mask turns = turns + this (4x4: 1, 5x5: 4)
-    bool columnSwaps;      // 6x6 only
-    bool reseedBeforeTemplate;  // 4x4 and 6x6 seed from the clock again
-    int givenBase;         // B: mask entry m starts at m + B
+    int turnsBase;       // added to Int(4*Rnd): 0 on 4x4, 1 on 5x5
+    int maskTurnsExtra;  // mask turns = turns + this (4x4: 1, 5x5: 4)
+    bool columnSwaps;    // 6x6 only
+    // Left columns of the neighbour pairs that may swap, in draw order; the
+    // pair 2-3 straddles two rectangle blocks and never swaps.
+    std::vector<int> swappableColumns;
+    bool reseedBeforeTemplate;                     // 4x4 and 6x6 seed from the clock again
+    int givenBase;                                 // B: mask entry m starts at m + B
     std::vector<std::vector<int>> forcedPatterns;  // mask entries set to 1
-    std::array<int, 3> thresholds;                  // by level 0, 1, 2
+    std::array<int, 3> thresholds;                 // by level 0, 1, 2
     MarkerRule markerRule;
+    std::string markerPrefix;  // marker file is prefix + region number + ".jpg"
     // Extra regions of the board (beyond rows and columns) and the kinds the
     // answer check tests, in the check's order.
     std::vector<Region> extraRegions;
@@ -54,10 +58,26 @@ struct BoardTable {
 // By board size index: 0 = 4x4, 1 = 5x5, 2 = 6x6.
 const BoardTable& boardTable(int boardsize);
 
+// The cells of every region of one kind (rows and columns included), in the
+// order the answer check adds them up.
+std::vector<Region> regionsOfKind(const BoardTable& table, RegionKind kind);
+
+// 1-based number of the region of this kind that holds the cell (quarters
+// 1..4 and rectangles 1..6 count left to right, top to bottom); 0 if none.
+int regionNumberOf(const BoardTable& table, RegionKind kind, CellXY cell);
+
 // Numbering shared by every size.
-inline int cellNumber(int n, int x, int y) { return x + n * y; }
-inline int pieceNumber(int n, int picture, int copy) { return (picture - 1) * n + copy; }
-inline int pictureOfPiece(int n, int piece) { return piece / n + 1; }
-inline int copyOfPiece(int n, int piece) { return piece % n; }
+inline int cellNumber(int n, int x, int y) {
+    return x + n * y;
+}
+inline int pieceNumber(int n, int picture, int copy) {
+    return (picture - 1) * n + copy;
+}
+inline int pictureOfPiece(int n, int piece) {
+    return piece / n + 1;
+}
+inline int copyOfPiece(int n, int piece) {
+    return piece % n;
+}
 
 }  // namespace engine

@@ -4,6 +4,8 @@
 // reached only through BoardView and randomness only through RandomSource.
 #include <array>
 #include <cstdint>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "engine/board_table.h"
@@ -26,7 +28,7 @@ struct WindowSize {
 };
 
 class Game {
-public:
+  public:
     Game(int boardsize, BoardView& view, RandomSource& rnd);
 
     const BoardTable& table() const { return *table_; }
@@ -36,7 +38,7 @@ public:
     void setsolution();
     void setstart(const Options& opt);
     void checkanswer(const Options& opt);
-    void timer1Tick();       // the game clock
+    void timer1Tick();                    // the game clock
     void timer2Tick(const Options& opt);  // the check delay: checkanswer, then Timer2 off
     void showsoln();
     void startAgain(const Options& opt);  // "Start again": givens back on, others home
@@ -46,6 +48,10 @@ public:
     bool pieceMouseMove(int k, int button, float x, float y, WindowSize window);
     void pieceMouseUp(int k, const Options& opt);
     int coveredCells() const;
+
+    // "New Puzzle" and a picture-set click clear the board this way before
+    // the next set-up: every piece hidden and back in its own tray slot.
+    void sendPiecesHome();
 
     // State, indexed [x][y] for grids (x the column); all 16-bit as on the board.
     std::vector<std::vector<std::int16_t>> solution;  // [x][y]
@@ -59,7 +65,21 @@ public:
     std::int16_t seconds = 0;
     std::int16_t pattern = 0;  // last forced-givens pattern drawn
 
-private:
+  private:
+    using Position = std::pair<float, float>;  // Left, Top
+
+    int cellcount() const { return n() * n(); }
+    // The copy chosen by the row: the solution's piece for cell (x, y).
+    int solutionPiece(int x, int y) const { return pieceNumber(n(), solution[x][y], y); }
+    std::vector<Position> positions(Pic pic) const;
+    void moveOnto(Pic pic, int index, Pic target, int targetIndex);
+    void setPiecesVisible(bool visible);
+    void play(const Options& opt, const std::string& path);
+    int quarterTurnsOfSolution() const;
+    int quarterTurnsOfMask() const;
+    void placeGiven(int x, int y);
+    bool withinHalfOf(int piece, Pic target, int targetIndex) const;
+
     const BoardTable* table_;
     BoardView& view_;
     RandomSource& rnd_;

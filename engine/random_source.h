@@ -2,12 +2,13 @@
 // Where the engine gets its random numbers. The board screens use ClockRandom;
 // tests script exact draws with ScriptedRandom so every game can be replayed.
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace engine {
 
 class RandomSource {
-public:
+  public:
     virtual ~RandomSource() = default;
     // A uniform number in [0, 1).
     virtual double next() = 0;
@@ -19,27 +20,28 @@ public:
 // Small xoshiro-style generator (our own, so the same seed gives the same games
 // on every compiler and library).
 class ClockRandom : public RandomSource {
-public:
+  public:
     explicit ClockRandom(std::uint64_t seed = 0);
     double next() override;
     void seedFromClock() override;
     void mix(std::uint64_t value);  // what seedFromClock does with the time
 
-private:
+  private:
+    std::uint64_t nextRaw();
     std::uint64_t s_[4];
 };
 
 // Plays back a fixed list of draws; runs out loudly (throws std::out_of_range)
 // so a test notices when the engine draws more than expected.
 class ScriptedRandom : public RandomSource {
-public:
+  public:
     explicit ScriptedRandom(std::vector<double> draws) : draws_(std::move(draws)) {}
     double next() override;
     void seedFromClock() override { ++seedings_; }
     std::size_t drawn() const { return pos_; }
     int seedings() const { return seedings_; }
 
-private:
+  private:
     std::vector<double> draws_;
     std::size_t pos_ = 0;
     int seedings_ = 0;

@@ -1,0 +1,78 @@
+// Judging a full grid. Only the region sums count: a grid that repeats
+// pictures but adds up right in every tested region passes.
+#include "engine/game.h"
+
+namespace engine {
+namespace {
+
+const char* failureMessage(RegionKind kind) {
+    switch (kind) {
+        case RegionKind::Quarter:
+            return "The Quarters are Wrong!";
+        case RegionKind::Diagonal:
+            return "The Diagonals are Wrong!";
+        default:
+            return "Wrong, Try Again";
+    }
+}
+
+}  // namespace
+
+void Game::checkanswer(const Options& opt) {
+    const int size = n();
+    const std::vector<Position> cells = positions(Pic::Image1);
+    const std::vector<Position> pieces = positions(Pic::Image2);
+
+    // When several pieces share a cell, the last one found counts.
+    for (int y = 0; y < size; ++y) {
+        for (int x = 0; x < size; ++x) {
+            answer[x][y] = 0;
+            for (int copy = 0; copy < size; ++copy) {
+                for (int s = 1; s <= size; ++s) {
+                    if (pieces[pieceNumber(size, s, copy)] == cells[cellNumber(size, x, y)]) {
+                        answer[x][y] = static_cast<std::int16_t>(s);
+                    }
+                }
+            }
+        }
+    }
+
+    // Start from the congratulation; every failing region overwrites it, so
+    // the kind tested last (rows and columns) wins.
+    if (opt.timerson == 0) {
+        view_.setCaption(Lab::Label7, "Correct, Well Done!!!");
+    } else {
+        view_.setCaption(Lab::Label7, "Correct in " + view_.caption(Lab::Label2_1) + " seconds!!!");
+    }
+    for (RegionKind kind : table().testedKinds) {
+        for (const Region& region : regionsOfKind(table(), kind)) {
+            int sum = 0;
+            for (const CellXY& cell : region.cells) sum += answer[cell.x][cell.y];
+            if (sum != table().regionSum) {
+                view_.setCaption(Lab::Label7, failureMessage(kind));
+                view_.setVisible(Lab::Label3_4, true);
+            }
+        }
+    }
+    view_.setVisible(Lab::Label7, true);
+
+    // Only the congratulations begin with "C".
+    const std::string verdict = view_.caption(Lab::Label7);
+    if (verdict.empty() || verdict[0] != 'C') {
+        play(opt, "wav\\boink.wav");
+        return;
+    }
+    play(opt, "wav\\fanf3.wav");
+    view_.setVisible(Lab::Label3_4, false);
+    view_.setVisible(Lab::Label3_2, true);
+    view_.setTimerEnabled(Tmr::Timer1, false);
+    seconds = 0;
+    if (opt.timerson == 1) view_.checkhighscore();
+}
+
+void Game::timer2Tick(const Options& opt) {
+    checkanswer(opt);
+    view_.setTimerEnabled(Tmr::Timer2, false);
+}
+
+}  // namespace engine
