@@ -85,6 +85,7 @@ void Label::setLook(const LabelLook& look) {
     setFont(look.font);
     setAlignment(look.alignment | Qt::AlignTop);
     setWordWrap(look.wordWrap);
+    setIndent(0);  // a framed label would otherwise push its caption down
     setFrameStyle(look.framed ? (QFrame::Box | QFrame::Plain) : QFrame::NoFrame);
     setLineWidth(1);
     setAutoFillBackground(!look.transparent);
@@ -145,6 +146,7 @@ void styleText(QWidget& w, const QColor& fore, const QColor& back, const QFont& 
     pal.setColor(QPalette::ButtonText, fore);
     pal.setColor(QPalette::Text, fore);
     pal.setColor(QPalette::Window, back);
+    pal.setColor(QPalette::Button, back);
     pal.setColor(QPalette::Base, back);
     w.setPalette(pal);
     w.setAutoFillBackground(true);

@@ -1,0 +1,85 @@
+#include "shell/titlefrm.h"
+
+#include <QImageReader>
+
+#include "platform/desktop.h"
+#include "platform/files.h"
+#include "records/inf_files.h"
+#include "shell/common.h"
+#include "shell/looks.h"
+#include "shell/module1.h"
+
+namespace shell {
+
+namespace {
+
+// A picture the title screen can do without: missing or unreadable files are
+// caught here instead of ending the game.
+bool loadOptionalPicture(platform::PictureBox& box, const std::string& path) {
+    const auto file = platform::findGameFile(path);
+    if (!file || !QImageReader(*file).canRead()) return false;
+    box.loadPicture(path);
+    return true;
+}
+
+}  // namespace
+
+Titlefrm::Titlefrm() : Form(kName, platform::FormKind::Fixed) {
+    setClientSize(6510, 8250);
+
+    Image1.wire = [this](int, platform::PictureBox& picture) {
+        picture.on.click = [this] { leaveForOptions(); };
+    };
+    Image1.add(0, new platform::PictureBox(this)).setBounds(240, 120, 6000, 2160);
+    Image1.add(1, new platform::PictureBox(this)).setBounds(1440, 2760, 3600, 3600);
+    Image2 = new platform::PictureBox(this);
+    Image2->setBounds(5220, 6240, 1005, 1425);
+
+    const auto button = buttonLook(platform::designFont("Arial Rounded MT Bold", 20.25, true));
+    Label5 = makeLabel(this, 1560, 7080, 1575, 600, "OK", button);
+    Label5->on.click = [this] { leaveForOptions(); };
+    Label7 = makeLabel(this, 3360, 7080, 1575, 600, "Exit", button);
+    Label7->on.click = [] { platform::screens::endProgram(); };
+
+    Label2 = makeLabel(this, 120, 7920, 6255, 255, kLegalNotice,
+                       blueTextLook(platform::designFont("Arial", 9, false)));
+}
+
+void Titlefrm::Form_Load() {
+    module1().loadfailed = loadEverything() ? 0 : 1;
+}
+
+bool Titlefrm::loadEverything() {
+    setTop(platform::screenHeightTwips() / 2 - Height() / 2);
+    setLeft(platform::screenWidthTwips() / 2 - Width() / 2);
+    if (!loadPictures()) return false;
+
+    // Options read before a failure keep their new values, the others stay.
+    auto& shared = module1();
+    records::LastGame options{shared.playsound, shared.timerson, shared.hidedesktop,
+                              shared.boardsize};
+    const bool complete =
+        records::loadBoth(records::kLastGameFile, records::kHighscoreFile, options, shared);
+    shared.playsound = options.playsound;
+    shared.timerson = options.timerson;
+    shared.hidedesktop = options.hidedesktop;
+    shared.boardsize = options.boardsize;
+    return complete;
+}
+
+bool Titlefrm::loadPictures() {
+    return loadOptionalPicture(Image1(0), "Images\\pimbalo.jpg") &&
+           loadOptionalPicture(Image1(1), "Images\\opening3.jpg") &&
+           loadOptionalPicture(*Image2, "Images\\logo4.jpg");
+}
+
+void Titlefrm::leaveForOptions() {
+    auto& shared = module1();
+    shared.hidedesktop = 1;
+    platform::screens::show("Grey");
+    platform::screens::show("Startplay2");
+    platform::screens::unload(kName);
+    if (shared.playsound == 1) playwav("wav\\click.wav");
+}
+
+}  // namespace shell

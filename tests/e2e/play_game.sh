@@ -1,0 +1,252 @@
+#!/bin/bash
+# Plays one whole game of Pimbalo in a virtual X server with real pointer and
+# keyboard input, then checks the two files the game wrote, byte for byte.
+#
+#   play_game.sh <pimbalo_e2e> <game folder> <output folder>
+#
+# The game runs in a fresh folder holding links to the game folder's Images
+# and wav, with a lastgame.inf and highscore.inf of our own. Screenshots of
+# every screen, the game's log and the files it wrote go to the output folder.
+# pimbalo_e2e is the game plus a hook that writes e2e_state.txt: where each
+# shown screen lies and, on a board, which drags solve the puzzle.
+set -euo pipefail
+
+game_exe=$1
+game_dir=$2
+out=$3
+
+for tool in Xvfb xdotool import cmp; do
+    if ! command -v "$tool" >/dev/null; then
+        echo "SKIP: $tool is not installed"
+        exit 77
+    fi
+done
+
+mkdir -p "$out"
+rm -f "$out"/*.png "$out"/*.inf "$out"/game.log
+work=$(mktemp -d)
+xvfb_pid=""
+game_pid=""
+
+cleanup() {
+    local status=$?
+    if [[ -n $game_pid ]] && kill -0 "$game_pid" 2>/dev/null; then
+        kill "$game_pid" 2>/dev/null || true
+        wait "$game_pid" 2>/dev/null || true
+    fi
+    if [[ -n $xvfb_pid ]] && kill -0 "$xvfb_pid" 2>/dev/null; then
+        kill "$xvfb_pid" 2>/dev/null || true
+        wait "$xvfb_pid" 2>/dev/null || true
+    fi
+    cp "$work"/*.inf "$out"/ 2>/dev/null || true
+    rm -rf "$work"
+    exit "$status"
+}
+trap cleanup EXIT
+trap 'exit 1' INT TERM
+
+fail() {
+    echo "FAIL: $*" >&2
+    [[ -f $work/e2e_state.txt ]] && sed 's/^/  state: /' "$work/e2e_state.txt" >&2
+    exit 1
+}
+
+# --- a virtual screen of 1280 x 1024 pixels, no window manager -------------
+display=""
+for n in $(seq 91 160); do
+    if [[ ! -e /tmp/.X11-unix/X$n && ! -e /tmp/.X$n-lock ]]; then
+        display=":$n"
+        break
+    fi
+done
+[[ -n $display ]] || fail "no free X display"
+Xvfb "$display" -screen 0 1280x1024x24 -nolisten tcp >"$out/xvfb.log" 2>&1 &
+xvfb_pid=$!
+export DISPLAY=$display
+for _ in $(seq 100); do
+    xdotool getdisplaygeometry >/dev/null 2>&1 && break
+    kill -0 "$xvfb_pid" 2>/dev/null || fail "Xvfb did not start"
+    sleep 0.1
+done
+xdotool getdisplaygeometry >/dev/null 2>&1 || fail "Xvfb did not answer"
+
+# --- the game folder: saved options and records of an earlier game ---------
+ln -s "$game_dir/Images" "$work/Images"
+ln -s "$game_dir/wav" "$work/wav"
+printf '1\r\n0\r\n0\r\n0\r\n' >"$work/lastgame.inf"  # sound on, clock off, 4x4
+
+# 90 lines: for rank r the nine times, then the nine names, tables in the
+# order 4x4 levels 1-3, 5x5 levels 1-3, 6x6 levels 1-3.
+highscore_text() {  # pairs of "line value" override the empty file
+    local -A value=()
+    while (($#)); do
+        value[$1]=$2
+        shift 2
+    done
+    local line
+    for line in $(seq 90); do
+        local field=$(((line - 1) % 18))
+        if [[ -n ${value[$line]+set} ]]; then
+            printf '%s\r\n' "${value[$line]}"
+        elif ((field < 9)); then
+            printf '0\r\n'
+        else
+            printf '\r\n'
+        fi
+    done
+}
+# 4x4 level 1 rank 1: 9000 s "Slowpoke"; 5x5 level 2 rank 1: 50 s "Max".
+highscore_text 1 9000 10 Slowpoke 5 50 14 Max >"$work/highscore.inf"
+
+export XDG_RUNTIME_DIR="$work/runtime"
+mkdir -m 700 "$XDG_RUNTIME_DIR"
+(cd "$work" && exec env QT_QPA_PLATFORM=xcb "$game_exe") >"$out/game.log" 2>&1 &
+game_pid=$!
+
+# --- reading the hook and acting like a player -------------------------------
+state() { cat "$work/e2e_state.txt" 2>/dev/null || true; }
+
+# Prints "x y" of a shown screen's client area once it is shown.
+wait_screen() {
+    local name=$1 limit=${2:-10}
+    local deadline=$((SECONDS + limit))
+    while ((SECONDS < deadline)); do
+        kill -0 "$game_pid" 2>/dev/null || fail "the game ended while waiting for $name"
+        local where
+        where=$(state | awk -v n="$name" '$1 == "screen" && $2 == n { print $3, $4 }')
+        if [[ -n $where ]]; then
+            echo "$where"
+            return 0
+        fi
+        sleep 0.1
+    done
+    fail "$name was not shown within $limit s"
+}
+
+wait_gone() {
+    local name=$1 deadline=$((SECONDS + 10))
+    while ((SECONDS < deadline)); do
+        state | grep -q "^screen $name " || return 0
+        sleep 0.1
+    done
+    fail "$name did not close"
+}
+
+# Clicks at a control given in twips (left, top, width, height) on a screen
+# whose client area is at origin "x y": the middle, or the indicator of a box.
+click_control() {
+    local origin=($1) left=$2 top=$3 width=$4 height=$5 where=${6:-middle}
+    local x y
+    if [[ $where == indicator ]]; then
+        x=$((origin[0] + left / 15 + 8))
+    else
+        x=$((origin[0] + (left + width / 2) / 15))
+    fi
+    y=$((origin[1] + (top + height / 2) / 15))
+    xdotool mousemove --sync "$x" "$y"
+    sleep 0.1
+    xdotool click 1
+    sleep 0.3
+}
+
+shot_number=0
+shot() {
+    shot_number=$((shot_number + 1))
+    sleep 0.4  # let the screen paint
+    import -window root "$out/$(printf '%02d' "$shot_number")-$1.png"
+}
+
+# A drag with the real pointer, in small steps as a hand would.
+drag() {
+    local fx=$1 fy=$2 tx=$3 ty=$4 steps=8 i
+    xdotool mousemove --sync "$fx" "$fy"
+    sleep 0.1
+    xdotool mousedown 1
+    for i in $(seq 1 $steps); do
+        xdotool mousemove "$((fx + (tx - fx) * i / steps))" "$((fy + (ty - fy) * i / steps))"
+        sleep 0.03
+    done
+    sleep 0.1
+    xdotool mouseup 1
+    sleep 0.2
+}
+
+# --- the game ------------------------------------------------------------------
+title=$(wait_screen Titlefrm)
+shot title
+click_control "$title" 1560 7080 1575 600  # "OK"
+
+options=$(wait_screen Startplay2)
+wait_screen Grey >/dev/null
+wait_gone Titlefrm
+shot options
+click_control "$options" 360 5100 1575 375 indicator  # "Timers On"
+click_control "$options" 3900 4200 2295 555           # "The Rules"
+
+rules=$(wait_screen Morvelrules)
+shot rules-4x4
+click_control "$rules" 360 1320 2295 495 indicator  # "6x6 Board"
+shot rules-6x6
+click_control "$rules" 13560 10920 1695 495  # "Exit"
+wait_gone Morvelrules
+
+shot options-timers-on
+click_control "$options" 1440 6360 975 855  # level "1"
+started=$SECONDS
+board=$(wait_screen jigsaw)
+wait_gone Startplay2
+shot board
+mapfile -t moves < <(state | awk '$1 == "move" { print $2, $3, $4, $5 }')
+((${#moves[@]} > 0)) || fail "the board reported no moves"
+echo "dragging ${#moves[@]} pieces"
+for move in "${moves[@]}"; do
+    # shellcheck disable=SC2086
+    drag $move
+done
+
+# The check runs a second after the last drop; the time qualifies.
+scores=$(wait_screen highscores 15)
+shot verdict
+box=$(state | awk '$1 == "textbox" { print $2, $3 }')
+[[ -n $box ]] || fail "no name box has the focus"
+xdotool mousemove --sync ${box} click 1
+sleep 0.2
+typed="Zoe 7"
+xdotool type --delay 80 "$typed"
+sleep 0.5  # the screen copies the name every 100 ms
+shot name-typed
+solved_within=$((SECONDS - started + 1))
+click_control "$scores" 12960 120 1935 495  # "Continue"
+wait_gone highscores
+shot board-after
+
+click_control "$board" 13740 10680 1245 555  # the board's "Exit"
+options=$(wait_screen Startplay2)
+wait_gone jigsaw
+shot options-again
+click_control "$options" 5280 7500 735 375  # "Exit"
+
+title=$(wait_screen Titlefrm)
+shot title-cancel
+click_control "$title" 3360 7080 1575 600  # "Exit"
+
+for _ in $(seq 100); do
+    kill -0 "$game_pid" 2>/dev/null || break
+    sleep 0.1
+done
+kill -0 "$game_pid" 2>/dev/null && fail "the game did not end on the title screen's Exit"
+wait "$game_pid" || fail "the game ended with status $?"
+game_pid=""
+
+# --- what the game wrote -------------------------------------------------------
+expected=$(mktemp)
+printf '1\r\n1\r\n1\r\n0\r\n' >"$expected"  # sound on, clock on, backdrop on, 4x4
+cmp "$expected" "$work/lastgame.inf" || fail "lastgame.inf differs"
+
+seconds=$(head -n 1 "$work/highscore.inf" | tr -d '\r')
+[[ $seconds =~ ^[0-9]+$ ]] && ((seconds >= 1 && seconds <= solved_within)) ||
+    fail "the new time '$seconds' is not between 1 and $solved_within s"
+highscore_text 1 "$seconds" 10 "$typed" 19 9000 28 Slowpoke 5 50 14 Max >"$expected"
+cmp "$expected" "$work/highscore.inf" || fail "highscore.inf differs"
+rm -f "$expected"
+echo "PASS: solved in $seconds s, files as expected; screenshots in $out"

@@ -1,0 +1,81 @@
+// Linked only into pimbalo_e2e, the end-to-end test's build of the game: every
+// 100 ms it writes "e2e_state.txt" in the working directory, telling the test
+// script where the shown screens are and, for a shown board, which moves solve
+// its puzzle. Screen coordinates are global pixels, as xdotool uses them.
+//
+//   screen <name> <x> <y>         client-area origin of a shown screen
+//   move <fx> <fy> <tx> <ty>      piece centre to its solution cell's centre
+//   textbox <x> <y>               centre of the text box holding the focus
+#include <QApplication>
+#include <QFile>
+#include <QLineEdit>
+#include <QTimer>
+#include <cstdio>
+#include <sstream>
+#include <string>
+
+#include "board/board_screen.h"
+#include "platform/form.h"
+
+namespace {
+
+const char* const kScreens[] = {"Titlefrm", "Grey",      "Startplay2", "Morvelrules",
+                                "jigsaw",   "jigsaw5x5", "jigsaw6x6",  "highscores"};
+
+QPoint centreOf(const QWidget& control) {
+    return control.mapToGlobal(control.rect().center());
+}
+
+// Every piece that is not given, from where it lies to the cell it solves.
+void writeMoves(std::ostream& out, board::Board& board) {
+    const engine::Game& game = board.game();
+    const int n = game.n();
+    for (int y = 0; y < n; ++y) {
+        for (int x = 0; x < n; ++x) {
+            if (game.given[x][y] == 1) continue;
+            // Copy y of the solution's picture belongs in row y.
+            const int piece = (game.solution[x][y] - 1) * n + y;
+            const QPoint from = centreOf(board.Image2(piece));
+            const QPoint to = centreOf(board.Image1(x + n * y));
+            out << "move " << from.x() << ' ' << from.y() << ' ' << to.x() << ' ' << to.y() << '\n';
+        }
+    }
+}
+
+std::string describeScreens() {
+    std::ostringstream out;
+    for (const char* name : kScreens) {
+        platform::Form* form = platform::screens::loaded(name);
+        if (!form || !form->isVisible()) continue;
+        const QPoint origin = form->mapToGlobal(QPoint(0, 0));
+        out << "screen " << name << ' ' << origin.x() << ' ' << origin.y() << '\n';
+        if (auto* board = dynamic_cast<board::Board*>(form)) writeMoves(out, *board);
+    }
+    if (auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        box && box->isVisible()) {
+        const QPoint centre = centreOf(*box);
+        out << "textbox " << centre.x() << ' ' << centre.y() << '\n';
+    }
+    return out.str();
+}
+
+// Written beside and renamed over, so the script never reads half a file.
+void publish(const std::string& text) {
+    static std::string last;
+    if (text == last) return;
+    QFile tmp(QStringLiteral("e2e_state.txt.tmp"));
+    if (!tmp.open(QIODevice::WriteOnly)) return;
+    tmp.write(text.data(), static_cast<qint64>(text.size()));
+    tmp.close();
+    if (std::rename("e2e_state.txt.tmp", "e2e_state.txt") == 0) last = text;
+}
+
+void installStateHook() {
+    auto* timer = new QTimer(QCoreApplication::instance());
+    QObject::connect(timer, &QTimer::timeout, [] { publish(describeScreens()); });
+    timer->start(100);
+}
+
+}  // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(installStateHook)
