@@ -1,0 +1,59 @@
+// Draws every picture, the hand cursor and the sounds of the game into a game
+// folder:   pimbalo_assets <game folder>
+// or lays the drawn pictures out for review:
+//           pimbalo_assets --contact-sheet <game folder> <sheet.png>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <cstdio>
+
+#include "canvas.h"
+#include "catalogue.h"
+#include "contact_sheet.h"
+#include "cursor.h"
+#include "sounds.h"
+
+namespace {
+
+bool writeBytes(const QString& path, const QByteArray& bytes) {
+    assets::ensureParentFolder(path);
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
+           file.write(bytes) == bytes.size();
+}
+
+int generate(const QString& folder) {
+    const QDir game(folder);
+    int failures = 0;
+    for (const assets::PictureFile& file : assets::allPictureFiles()) {
+        if (!assets::saveJpeg(file.render(), game.filePath(file.path))) {
+            std::fprintf(stderr, "cannot write %s\n", qPrintable(file.path));
+            ++failures;
+        }
+    }
+    const QByteArray cursor = assets::curFile(assets::handPointer(), assets::kHandHotSpot);
+    if (!writeBytes(game.filePath("Images/H_POINT.cur"), cursor)) ++failures;
+    for (const assets::Sound& sound : assets::gameSounds()) {
+        const auto bytes = assets::wavFile(sound.samples);
+        const QByteArray data(reinterpret_cast<const char*>(bytes.data()), int(bytes.size()));
+        if (!writeBytes(game.filePath("wav/" + QString::fromStdString(sound.file)), data)) {
+            std::fprintf(stderr, "cannot write %s\n", sound.file.c_str());
+            ++failures;
+        }
+    }
+    return failures == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QGuiApplication app(argc, argv);
+    const QStringList args = app.arguments();
+    if (args.size() == 4 && args[1] == "--contact-sheet")
+        return assets::writeContactSheet(args[2], args[3]) ? 0 : 1;
+    if (args.size() == 2) return generate(args[1]);
+    std::fprintf(stderr,
+                 "usage: pimbalo_assets <game folder>\n"
+                 "       pimbalo_assets --contact-sheet <game folder> <sheet.png>\n");
+    return 2;
+}

@@ -1,0 +1,146 @@
+// Properties of the drawings themselves: the lettering's strokes stay in
+// their box and keep their holes open, the solids stay inside their picture,
+// the compounds show one colour per tetrahedron, and each thumbnail shows the
+// first pictures of its set in order.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+#include "canvas.h"
+#include "expected_files.h"
+#include "game_folder.h"
+#include "glyphs.h"
+#include "pictures.h"
+
+using namespace assets;
+
+TEST(Lettering, EveryGlyphStaysInItsBoxAndKeepsItsHoles) {
+    for (char c : std::string("123456ABCDEFPimbalo")) {
+        const QPainterPath outline = glyphOutline(c, 20);
+        const QRectF box = outline.boundingRect();
+        EXPECT_GE(box.top(), -0.5) << c;
+        EXPECT_LE(box.bottom(), 100.5) << c;
+        EXPECT_GE(box.left(), -0.5) << c;
+        EXPECT_LE(box.right(), glyph(c).advance + 0.5) << c;
+        EXPECT_GT(box.height(), 40) << c;
+    }
+    // Points inside a bowl must stay open, points on a stroke filled.
+    const struct {
+        char c;
+        QPointF hole, ink;
+    } bowls[] = {{'o', {36, 66}, {13, 66}}, {'b', {38, 66}, {15, 30}}, {'a', {35, 66}, {57, 80}},
+                 {'6', {41, 64}, {15, 64}}, {'D', {40, 50}, {16, 50}}, {'B', {38, 30}, {16, 60}},
+                 {'P', {38, 32}, {16, 80}}, {'A', {42, 45}, {42, 11}}};
+    for (const auto& b : bowls) {
+        const QPainterPath outline = glyphOutline(b.c, 20);
+        EXPECT_FALSE(outline.contains(b.hole)) << b.c << " hole filled";
+        EXPECT_TRUE(outline.contains(b.ink)) << b.c << " stroke missing";
+    }
+}
+
+TEST(Lettering, WordsAreSetLeftToRightWithoutOverlap) {
+    const SetWord word = setWord("Pimbalo", 20, 6);
+    ASSERT_EQ(word.letters.size(), 7u);
+    for (size_t i = 1; i < word.letters.size(); ++i) {
+        EXPECT_LT(word.letters[i - 1].boundingRect().right(), word.letters[i].boundingRect().left())
+            << "letters " << i - 1 << " and " << i;
+    }
+    EXPECT_NEAR(word.letters.back().boundingRect().right(), word.width, 12);
+}
+
+namespace {
+
+QImage solidPicture(Polyhedron p) {
+    return paintSquare(200, [p](QPainter& painter) { drawPolyhedron(painter, p); });
+}
+
+// Hues of strongly coloured pixels, in 30-degree buckets.
+std::set<int> hueBuckets(const QImage& image) {
+    std::set<int> buckets;
+    std::map<int, int> counts;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor c = image.pixelColor(x, y);
+            if (c.hsvSaturation() > 120 && c.value() > 110) ++counts[c.hsvHue() / 30];
+        }
+    }
+    for (const auto& [bucket, count] : counts)
+        if (count > 150) buckets.insert(bucket);
+    return buckets;
+}
+
+}  // namespace
+
+TEST(Polyhedra, EverySolidSitsWhollyInsideItsPicture) {
+    for (int p = 0; p <= int(Polyhedron::GreatDodecahedron); ++p) {
+        const QImage image = solidPicture(Polyhedron(p));
+        int solidPixels = 0;
+        for (int y = 0; y < 200; ++y) {
+            for (int x = 0; x < 200; ++x) {
+                const QColor c = image.pixelColor(x, y);
+                const bool solid = c.hsvSaturation() > 110 || c.value() < 120;
+                solidPixels += solid;
+                const bool edge = x < 3 || y < 3 || x > 196 || y > 196;
+                if (edge) {
+                    EXPECT_FALSE(solid) << "polyhedron " << p << " touches " << x << "," << y;
+                }
+            }
+        }
+        EXPECT_GT(solidPixels, 200 * 200 / 6) << "polyhedron " << p << " too small";
+    }
+}
+
+TEST(Polyhedra, CompoundsShowATetrahedronPerColourAndStarsOneColour) {
+    EXPECT_GE(hueBuckets(solidPicture(Polyhedron::FiveTetrahedra)).size(), 4u);
+    EXPECT_GE(hueBuckets(solidPicture(Polyhedron::TenTetrahedra)).size(), 6u);
+    for (Polyhedron single :
+         {Polyhedron::GreatStellatedDodecahedron, Polyhedron::GreatIcosahedron,
+          Polyhedron::SmallStellatedDodecahedron, Polyhedron::GreatDodecahedron})
+        EXPECT_LE(hueBuckets(solidPicture(single)).size(), 2u) << int(single);
+}
+
+// Each quarter of a thumbnail looks most like the set's picture of the same
+// position (pictures 1 to 4, left to right, top to bottom).
+TEST(Thumbnails, ShowTheFirstFourPicturesOfTheirSetInOrder) {
+    auto difference = [](const QImage& a, const QImage& b) {
+        const QImage x = a.scaled(24, 24).convertToFormat(QImage::Format_RGB32);
+        const QImage y = b.scaled(24, 24).convertToFormat(QImage::Format_RGB32);
+        double sum = 0;
+        for (int r = 0; r < 24; ++r)
+            for (int c = 0; c < 24; ++c)
+                sum += std::abs(qGray(x.pixel(c, r)) - qGray(y.pixel(c, r))) +
+                       std::abs(qRed(x.pixel(c, r)) - qRed(y.pixel(c, r)));
+        return sum;
+    };
+    std::set<QString> checked;
+    for (int board = 0; board < 3; ++board) {
+        for (const ExpectedSet& set : expectedSets(board)) {
+            if (checked.count(set.folder)) continue;
+            checked.insert(set.folder);
+            // Thumbnails are named after their folder, but singular for
+            // numbers and letters.
+            QString name = set.folder.section('/', -1);
+            if (name == "numbers" || name == "letters") name.chop(1);
+            const QImage thumb = loadPicture(set.folder + "/" + name + ".jpg");
+            ASSERT_FALSE(thumb.isNull()) << qPrintable(set.folder);
+            const int half = thumb.width() / 2;
+            for (int k = 0; k < 4; ++k) {
+                const QImage quarter =
+                    thumb.copy((k % 2) * half + 4, (k / 2) * half + 4, half - 8, half - 8);
+                int best = -1;
+                double bestDifference = 1e18;
+                for (int s = 0; s < 4; ++s) {
+                    const QImage symbol = loadPicture(set.folder + "/" + set.symbols[s]);
+                    const int inset = symbol.width() * 4 / 70;
+                    const double d =
+                        difference(quarter, symbol.copy(inset, inset, symbol.width() - 2 * inset,
+                                                        symbol.height() - 2 * inset));
+                    if (d < bestDifference) bestDifference = d, best = s;
+                }
+                EXPECT_EQ(best, k) << qPrintable(set.folder) << " quarter " << k;
+            }
+        }
+    }
+    EXPECT_EQ(checked.size(), 10u);
+}
