@@ -56,7 +56,9 @@ void Morvelrules::buildLayout() {
     const QFont sentence = designFont("Arial", 18, false);
     Label1.add(6, makeLabel(this, 360, 2280, 14895, 765, rulesPage(0).heading,
                             blueTextLook(large, Qt::AlignLeft)));
-    Label1.add(0, makeLabel(this, 4920, 2280, 4530, 540, "The Rules of Pimbalo",
+    // A touch wider than designed: the Arial stand-in sets this heading a few
+    // pixels wider than the label and would cut off its last letter.
+    Label1.add(0, makeLabel(this, 4920, 2280, 4650, 540, "The Rules of Pimbalo",
                             blueTextLook(large, Qt::AlignLeft)));
     Label1.add(2, makeLabel(this, 360, 3000, 14535, 1725, rulesPage(0).rule,
                             blueTextLook(sentence, Qt::AlignLeft, true)));
