@@ -138,4 +138,19 @@ bool saveJpeg(const QImage& image, const QString& path) {
     return writer.write(image.convertToFormat(QImage::Format_RGB32));
 }
 
+QPainterPath starPath(QPointF centre, double outer, double inner, int points) {
+    QPainterPath path;
+    for (int i = 0; i < 2 * points; ++i) {
+        const double a = -M_PI / 2 + M_PI * i / points;
+        const double r = (i % 2 == 0) ? outer : inner;
+        const QPointF p = centre + QPointF(r * std::cos(a), r * std::sin(a));
+        if (i == 0)
+            path.moveTo(p);
+        else
+            path.lineTo(p);
+    }
+    path.closeSubpath();
+    return path;
+}
+
 }  // namespace assets

@@ -44,6 +44,9 @@ void glossyFill(QPainter& painter, const QPainterPath& shape, QColor base, doubl
 
 QColor mix(QColor a, QColor b, double t);
 
+// A star of `points` points, the first pointing straight up.
+QPainterPath starPath(QPointF centre, double outer, double inner, int points);
+
 // JPEG at a fixed quality; creates missing folders. False on failure.
 bool saveJpeg(const QImage& image, const QString& path);
 bool ensureParentFolder(const QString& path);

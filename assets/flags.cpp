@@ -9,21 +9,6 @@ namespace assets {
 
 namespace {
 
-QPainterPath starPath(QPointF centre, double outer, double inner, int points) {
-    QPainterPath path;
-    for (int i = 0; i < 2 * points; ++i) {
-        const double a = -M_PI / 2 + M_PI * i / points;
-        const double r = (i % 2 == 0) ? outer : inner;
-        const QPointF p = centre + QPointF(r * std::cos(a), r * std::sin(a));
-        if (i == 0)
-            path.moveTo(p);
-        else
-            path.lineTo(p);
-    }
-    path.closeSubpath();
-    return path;
-}
-
 // Runs `paint` in a units-wide by units-high coordinate system mapped onto rect.
 template <typename Paint>
 void inFlagUnits(QPainter& painter, const QRectF& rect, double unitsWide, double unitsHigh,

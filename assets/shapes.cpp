@@ -23,21 +23,6 @@ QPainterPath regularPolygon(QPointF centre, double radius, int corners, double s
     return path;
 }
 
-QPainterPath star(QPointF centre, double outer, double inner, int points) {
-    QPainterPath path;
-    for (int i = 0; i < 2 * points; ++i) {
-        const double a = (-90.0 + 180.0 * i / points) * M_PI / 180.0;
-        const double r = (i % 2 == 0) ? outer : inner;
-        const QPointF p = centre + QPointF(r * std::cos(a), r * std::sin(a));
-        if (i == 0)
-            path.moveTo(p);
-        else
-            path.lineTo(p);
-    }
-    path.closeSubpath();
-    return path;
-}
-
 // Rounds the corners of a straight-edged path a little: friendlier to small
 // hands than knife-sharp points.
 QPainterPath softened(const QPainterPath& path, double radius) {
@@ -64,7 +49,7 @@ void drawShape(QPainter& painter, Shape shape) {
             colour = QColor(30, 180, 60);
             break;
         case Shape::Star:
-            path = star(centre + QPointF(0, 3), 42, 18, 5);
+            path = starPath(centre + QPointF(0, 3), 42, 18, 5);
             colour = QColor(255, 200, 0);
             break;
         case Shape::Square:
