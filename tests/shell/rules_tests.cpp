@@ -1,30 +1,33 @@
 // The rules screen's pages, and the program finding its game folder.
-#include <QDir>
-#include <QTemporaryDir>
-#include <QtTest>
-
 #include "platform/files.h"
-#include "platform/form.h"
 #include "screen_fixture.h"
 #include "shell/game_folder.h"
-#include "shell/module1.h"
 #include "shell/morvelrules.h"
-#include "shell/startplay2.h"
 
 using namespace shell_test;
-using platform::screens::get;
-using platform::screens::isLoaded;
-using Sounds = std::vector<std::string>;
+using shell::Morvelrules;
 
 namespace {
 
-shell::Morvelrules& rules() {
-    return get<shell::Morvelrules>(shell::Morvelrules::kName);
+struct Page {
+    const char *heading, *ruleEnding, *puzzle, *solution;
+};
+const Page kPages[] = {
+    {"4x4 Board", "each quarter are different.", "images\\4x4puzzle.jpg",
+     "images\\4x4solution.jpg"},
+    {"5x5 Board", "along each diagonal are different.", "images\\5x5puzzle.jpg",
+     "images\\5x5solution.jpg"},
+    {"6x6 Board", "six coloured rectangles are different.", "images\\6x6puzzle2.jpg",
+     "images\\6x6solution2.jpg"},
+};
+
+Morvelrules& rules() {
+    return screen<Morvelrules>();
 }
 
 void openRules() {
     platform::screens::show(shell::Startplay2::kName);
-    click(*get<shell::Startplay2>(shell::Startplay2::kName).Label6);
+    click(*screen<shell::Startplay2>().Label6);
 }
 
 // The picture box shows exactly the picture of that file.
@@ -33,115 +36,66 @@ bool shows(const platform::PictureBox& box, const char* file) {
            box.picture().cacheKey() == platform::loadPicture(file).cacheKey();
 }
 
+void checkPage(int page) {
+    QVERIFY(rules().Option1(page).Value());
+    QCOMPARE(rules().Label1(6).Caption(), std::string(kPages[page].heading));
+    QVERIFY(rules().Label1(2).Caption().find(kPages[page].ruleEnding) != std::string::npos);
+    QVERIFY(shows(*rules().Image3, kPages[page].puzzle));
+    QVERIFY(shows(*rules().Image4, kPages[page].solution));
+}
+
 }  // namespace
 
-class RulesTests : public QObject {
+class RulesTests : public ScreenTest {
     Q_OBJECT
-    ScreenFixture fixture;
 
   private slots:
-    void init() { fixture.begin(); }
-    void cleanup() { fixture.end(); }
-
-    void opensOnTheFirstPageWhateverTheSize() {
-        shell::module1().boardsize = 2;
-        shell::module1().playsound = 1;
-        openRules();
-        QCOMPARE(fixture.sounds.back(), std::string("wav\\click.wav"));
-        QVERIFY(rules().isVisible());
-        QVERIFY(rules().Option1(0).Value());
-        QCOMPARE(rules().Label1(6).Caption(), std::string("4x4 Board"));
-        QVERIFY(rules().Label1(2).Caption().find("each quarter are different.") !=
-                std::string::npos);
-        QVERIFY(shows(*rules().Image3, "images\\4x4puzzle.jpg"));
-        QVERIFY(shows(*rules().Image4, "images\\4x4solution.jpg"));
-        QVERIFY(shows(rules().Image1(0), "Images\\pimbalo2.jpg"));
-        QVERIFY(shows(*rules().Image2, "Images\\logo2.jpg"));
-        // The standard full size, centred on 1280 x 1024 pixels.
-        QCOMPARE(rules().Left(), 1920.0f);
-        QCOMPARE(rules().Top(), 1920.0f);
-        QCOMPARE(rules().Width(), 15360.0f);
-    }
-
-    void pagesShowTheirPicturesAndTexts() {
-        openRules();
-        fixture.sounds.clear();
-        const char* const endings[] = {"each quarter are different.",
-                                       "along each diagonal are different.",
-                                       "six coloured rectangles are different."};
-        // Backwards, so that every page is a change.
-        for (int page : {2, 1, 0}) {
-            const shell::RulesPage& expected = shell::rulesPage(page);
-            clickIndicator(rules().Option1(page));
-            QCOMPARE(rules().Label1(6).Caption(), std::string(expected.heading));
-            QVERIFY(rules().Label1(2).Caption().find(endings[page]) != std::string::npos);
-            QVERIFY(shows(*rules().Image3, expected.puzzlePicture));
-            QVERIFY(shows(*rules().Image4, expected.solutionPicture));
-        }
-        QCOMPARE(std::string(shell::rulesPage(2).puzzlePicture),
-                 std::string("images\\6x6puzzle2.jpg"));
-        QCOMPARE(std::string(shell::rulesPage(2).solutionPicture),
-                 std::string("images\\6x6solution2.jpg"));
-
-        // Selecting the page already shown does not redo it.
-        rules().Label1(6).setCaption("unchanged");
-        clickIndicator(rules().Option1(0));
-        QCOMPARE(rules().Label1(6).Caption(), std::string("unchanged"));
-        QVERIFY(fixture.sounds.empty());
-    }
-
-    void exitReturnsToTheOptions() {
+    void pagesAndExit() {
+        shell::module1().boardsize = 2;  // the 4x4 page opens whatever the size
         for (int sound : {0, 1}) {
             shell::module1().playsound = static_cast<std::int16_t>(sound);
+            const Sounds clickIfOn = sound == 1 ? Sounds{"wav\\click.wav"} : Sounds{};
+            sounds.clear();
             openRules();
-            clickIndicator(rules().Option1(1));
-            fixture.sounds.clear();
+            QCOMPARE(sounds, clickIfOn);
+            checkPage(0);  // the second time too: it starts afresh
+            QVERIFY(shows(rules().Image1(0), "Images\\pimbalo2.jpg"));
+            QVERIFY(shows(*rules().Image2, "Images\\logo2.jpg"));
+            // The standard full size, centred on 1280 x 1024 pixels.
+            QCOMPARE(QPointF(rules().Left(), rules().Top()), QPointF(1920, 1920));
+
+            sounds.clear();
+            for (int page : {2, 1, 0}) {  // backwards, so that every page is a change
+                click(rules().Option1(page), true);
+                checkPage(page);
+            }
             click(rules().Label3(0));
-            QVERIFY(!isLoaded(shell::Morvelrules::kName));
-            QVERIFY(get(shell::Startplay2::kName).isVisible());
-            QCOMPARE(fixture.sounds, sound == 1 ? Sounds{"wav\\click.wav"} : Sounds{});
+            QVERIFY(!platform::screens::isLoaded(Morvelrules::kName));
+            QVERIFY(screen<shell::Startplay2>().isVisible());
+            QCOMPARE(sounds, clickIfOn);  // pages turn silently
         }
-        // Opened again, it starts afresh on the first page.
-        openRules();
-        QVERIFY(rules().Option1(0).Value());
-        QCOMPARE(rules().Label1(6).Caption(), std::string("4x4 Board"));
-    }
-};
-
-class GameFolderTests : public QObject {
-    Q_OBJECT
-
-  private slots:
-    void findsImagesInAnyLetterCase() {
-        QTemporaryDir upper, lower, none;
-        QVERIFY(QDir(upper.path()).mkdir("Images"));
-        QVERIFY(QDir(lower.path()).mkdir("iMAGES"));
-        QVERIFY(QDir(none.path()).mkdir("wav"));
-        QVERIFY(shell::hasImagesFolder(upper.path()));
-        QVERIFY(shell::hasImagesFolder(lower.path()));
-        QVERIFY(!shell::hasImagesFolder(none.path()));
     }
 
-    void movesOnlyWhenThePicturesAreMissing() {
+    void programSettlesWhereThePicturesAre() {
         const QString before = QDir::currentPath();
-        QTemporaryDir game, elsewhere, alsoBare;
-        QVERIFY(QDir(game.path()).mkdir("Images"));
+        QTemporaryDir game, other, bare;
+        QVERIFY(QDir(game.path()).mkdir("iMAGES"));  // any letter case
+        QVERIFY(QDir(other.path()).mkdir("Images"));
+        QVERIFY(QDir(bare.path()).mkdir("wav"));
+        const QString gamePath = QDir(game.path()).canonicalPath();
 
-        QVERIFY(QDir::setCurrent(elsewhere.path()));
-        QCOMPARE(shell::settleInGameFolder({alsoBare.path(), game.path()}),
-                 QDir(game.path()).canonicalPath());
-        QCOMPARE(QDir::currentPath(), QDir(game.path()).canonicalPath());
-
-        // Already in a folder with pictures: stays.
-        QCOMPARE(shell::settleInGameFolder({elsewhere.path()}), QDir(game.path()).canonicalPath());
+        QVERIFY(QDir::setCurrent(bare.path()));
+        QCOMPARE(shell::settleInGameFolder({bare.path(), game.path(), other.path()}), gamePath);
+        QCOMPARE(QDir::currentPath(), gamePath);
+        // Already among the pictures: stays.
+        QCOMPARE(shell::settleInGameFolder({other.path()}), gamePath);
         QVERIFY(QDir::setCurrent(before));
     }
 };
 
 int runRulesTests(int argc, char* argv[]) {
-    RulesTests rules;
-    GameFolderTests folder;
-    return QTest::qExec(&rules, argc, argv) | QTest::qExec(&folder, argc, argv);
+    RulesTests tests;
+    return QTest::qExec(&tests, argc, argv);
 }
 
 #include "rules_tests.moc"

@@ -1,56 +1,90 @@
 #pragma once
-// What the shell's screen tests share: a fresh game folder for each test (a
-// temporary folder with the game's Images and wav linked in, where the .inf
-// files are written), a log of the sounds asked for, the program's end,
-// stand-in board screens, and clicks sent through the window like a player's.
-#include <QString>
+// What the shell's screen tests share: each test runs in a fresh game folder
+// (a temporary folder with the game's Images and wav linked in, where the .inf
+// files land), with a log of the sounds asked for and stand-in board screens.
+#include <QDir>
 #include <QTemporaryDir>
-#include <QWidget>
+#include <QtTest>
 #include <memory>
-#include <string>
-#include <vector>
+
+#include "platform/form.h"
+#include "platform/sound.h"
+#include "records/inf_files.h"
+#include "shell/module1.h"
+#include "shell/register.h"
+#include "shell/startplay2.h"
 
 namespace shell_test {
 
-class ScreenFixture {
-  public:
-    // Registers the shell's screens and the stand-in boards (once per run).
-    static void registerOnce();
+using Sounds = std::vector<std::string>;
 
-    // Per test: new folder, zeroed shared state, empty logs. `images` is the
-    // Images folder to link in (the game's by default).
-    void begin(const QString& images = QString());
-    // Per test: every screen unloaded and deleted, working folder restored.
-    void end();
+inline const QString kGameFolder = QStringLiteral(PIMBALO_GAME_DIR);
 
-    QString path(const QString& name) const;
-    void writeFile(const QString& name, const QByteArray& bytes) const;
-    QByteArray readFile(const QString& name) const;
-
-    std::vector<std::string> sounds;
+class ScreenTest : public QObject {
+    Q_OBJECT
+  protected:
+    Sounds sounds;
     bool ended = false;
+
+  private slots:
+    void init() {
+        if (!platform::screens::isRegistered("jigsaw")) {
+            shell::registerScreens();
+            for (const char* board : {"jigsaw", "jigsaw5x5", "jigsaw6x6"})  // only loaded
+                platform::screens::registerScreen(board, [board] {
+                    return new platform::Form(board, platform::FormKind::FullSize);
+                });
+        }
+        dir_ = std::make_unique<QTemporaryDir>();
+        for (const char* folder : {"Images", "wav"})
+            QVERIFY(QFile::link(kGameFolder + "/" + folder, dir_->filePath(folder)));
+        previousFolder_ = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(dir_->path()));
+        shell::module1() = shell::Module1{};
+        sounds.clear();
+        ended = false;
+        platform::setSoundObserver([this](const std::string& file) { sounds.push_back(file); });
+        platform::screens::setEndHandler([this] { ended = true; });
+    }
+
+    void cleanup() {
+        platform::screens::endProgram();  // unloads every screen
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        platform::setSoundObserver(nullptr);
+        QDir::setCurrent(previousFolder_);
+        dir_.reset();
+    }
 
   private:
     std::unique_ptr<QTemporaryDir> dir_;
     QString previousFolder_;
 };
 
-// The game folder the build made (pictures and sounds).
-QString gameFolder();
+template <class Screen>
+Screen& screen() {
+    return platform::screens::get<Screen>(Screen::kName);
+}
 
-// A full, well-formed highscore.inf with one entry: 4x4 level 1, rank 1.
-QByteArray highscoreWithOneEntry(int seconds, const std::string& name);
+inline void writeFile(const char* name, const QByteArray& bytes) {
+    QFile f(name);
+    QVERIFY(f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size());
+}
 
-// Left button pressed and released at `at` (default: the middle) of a control
-// of a shown screen, sent to its window as a player's click.
-void click(QWidget& control);
-void clickAt(QWidget& control, QPoint at);
-// Check boxes and option buttons react to their indicator, at the left.
-void clickIndicator(QWidget& control);
+// A well-formed highscore.inf whose one entry, 4x4 level 1, is Ann's 35 seconds.
+inline QByteArray highscoreWithOneEntry() {
+    records::FastestTimes tables;
+    tables.besttime[0][0][0] = 35;
+    tables.bestname[0][0][0] = "Ann";
+    return QByteArray::fromStdString(records::highscoreText(tables));
+}
 
-// The board screens the options screen has shown, in order.
-std::vector<std::string>& boardsShown();
-// What a board's "Exit" does for the options screen: show it, unload the board.
-void leaveBoard(const std::string& name);
+// A player's left click on a control of a shown screen: in its middle, or on
+// the indicator at the left of a check box or option button.
+inline void click(QWidget& control, bool onIndicator = false) {
+    QWindow* window = control.window()->windowHandle();
+    QVERIFY2(window && control.window()->isVisible(), "clicks need a shown screen");
+    const QPoint at = onIndicator ? QPoint(8, control.height() / 2) : control.rect().center();
+    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, control.mapTo(control.window(), at));
+}
 
 }  // namespace shell_test
