@@ -25,7 +25,7 @@ enum class Lab {
 enum class Tmr { Timer1, Timer2 };
 
 class BoardView {
-public:
+  public:
     virtual ~BoardView() = default;
 
     virtual float left(Pic pic, int index) const = 0;
