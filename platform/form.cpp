@@ -20,8 +20,11 @@ Qt::WindowFlags flagsFor(FormKind kind) {
         case FormKind::Fixed:
             return Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint;
-        case FormKind::FullSize:
         case FormKind::Backdrop:
+            // A click on the backdrop must never lift it over the game.
+            return Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnBottomHint |
+                   Qt::WindowDoesNotAcceptFocus;
+        case FormKind::FullSize:
         case FormKind::Overlay:
             return Qt::Window | Qt::FramelessWindowHint;
     }
