@@ -288,6 +288,29 @@ class BoardTests : public QObject {
         QVERIFY(scores() && scores()->isVisible() && scores()->Text1(1).isVisible());
     }
 
+    // Two free pieces of one row dropped on each other's cells: the rows still
+    // add up, the columns do not.
+    void wrongGridNamesTheFailingKind() {
+        Board& b = open(0, 2);
+        const int n = b.layout().n;
+        int first = -1, second = -1;
+        for (int c = 0; c < b.cellcount && second < 0; ++c) {
+            if (isGiven(b, c)) continue;
+            if (first >= 0 && first / n == c / n)
+                second = c;
+            else if (first < 0 || first / n != c / n)
+                first = c;
+        }
+        QVERIFY(second > first && first >= 0);
+        dragTo(b, solutionPiece(b, second), b.Image1(first));
+        dragTo(b, solutionPiece(b, first), b.Image1(second));
+        solve(b);
+        QVERIFY(b.Timer2.Enabled());
+        b.Timer2.tick();
+        QCOMPARE(b.Label7->Caption(), std::string("Wrong, Try Again"));
+        QVERIFY(b.Label7->Visible() && b.Label3(ShowSolution).Visible());
+    }
+
     // A new puzzle keeps the set and restarts the clock; start again keeps the
     // puzzle and the clock; a thumbnail changes the set, the panel staying
     // open; the solution fills the grid.
