@@ -102,7 +102,7 @@ void Form::Show() {
     show();
     // The offscreen platform used by the tests has no stacking to change.
     if (QGuiApplication::platformName() != QLatin1String("offscreen")) raise();
-    activateWindow();
+    if (!(windowFlags() & Qt::WindowDoesNotAcceptFocus)) activateWindow();
 }
 
 void Form::mouseMoveEvent(QMouseEvent* e) {
