@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 #include <map>
 
 #include "platform/controls.h"
@@ -99,6 +100,13 @@ void Form::clearMouseIcon() {
 }
 
 void Form::Show() {
+    // An overlay belongs to the screen it is laid over (the one in use), so a
+    // window manager keeps it above that screen when the player clicks there.
+    if (kind_ == FormKind::Overlay && !isVisible()) {
+        winId();  // makes the native window, so it can have a parent window
+        QWindow* over = QGuiApplication::focusWindow();
+        if (over && over != windowHandle()) windowHandle()->setTransientParent(over);
+    }
     show();
     // The offscreen platform used by the tests has no stacking to change.
     if (QGuiApplication::platformName() != QLatin1String("offscreen")) raise();
