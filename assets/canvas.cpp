@@ -138,12 +138,12 @@ bool saveJpeg(const QImage& image, const QString& path) {
     return writer.write(image.convertToFormat(QImage::Format_RGB32));
 }
 
-QPainterPath starPath(QPointF centre, double outer, double inner, int points) {
+QPainterPath pathAround(QPointF centre, int corners, double startRadians,
+                        const std::function<double(int)>& radius) {
     QPainterPath path;
-    for (int i = 0; i < 2 * points; ++i) {
-        const double a = -M_PI / 2 + M_PI * i / points;
-        const double r = (i % 2 == 0) ? outer : inner;
-        const QPointF p = centre + QPointF(r * std::cos(a), r * std::sin(a));
+    for (int i = 0; i < corners; ++i) {
+        const double a = startRadians + 2 * M_PI * i / corners;
+        const QPointF p = centre + QPointF(radius(i) * std::cos(a), radius(i) * std::sin(a));
         if (i == 0)
             path.moveTo(p);
         else
@@ -151,6 +151,11 @@ QPainterPath starPath(QPointF centre, double outer, double inner, int points) {
     }
     path.closeSubpath();
     return path;
+}
+
+QPainterPath starPath(QPointF centre, double outer, double inner, int points) {
+    return pathAround(centre, 2 * points, -M_PI / 2,
+                      [&](int i) { return i % 2 == 0 ? outer : inner; });
 }
 
 }  // namespace assets

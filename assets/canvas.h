@@ -44,6 +44,11 @@ void glossyFill(QPainter& painter, const QPainterPath& shape, QColor base, doubl
 
 QColor mix(QColor a, QColor b, double t);
 
+// A closed path through `corners` points evenly around the centre, the first
+// at startRadians, each at its own distance.
+QPainterPath pathAround(QPointF centre, int corners, double startRadians,
+                        const std::function<double(int)>& radius);
+
 // A star of `points` points, the first pointing straight up.
 QPainterPath starPath(QPointF centre, double outer, double inner, int points);
 

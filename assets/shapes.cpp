@@ -10,17 +10,7 @@ namespace assets {
 namespace {
 
 QPainterPath regularPolygon(QPointF centre, double radius, int corners, double startDegrees) {
-    QPainterPath path;
-    for (int i = 0; i < corners; ++i) {
-        const double a = (startDegrees + 360.0 * i / corners) * M_PI / 180.0;
-        const QPointF p = centre + QPointF(radius * std::cos(a), radius * std::sin(a));
-        if (i == 0)
-            path.moveTo(p);
-        else
-            path.lineTo(p);
-    }
-    path.closeSubpath();
-    return path;
+    return pathAround(centre, corners, startDegrees * M_PI / 180.0, [=](int) { return radius; });
 }
 
 // Rounds the corners of a straight-edged path a little: friendlier to small
