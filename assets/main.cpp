@@ -1,5 +1,6 @@
-// Draws every picture, the hand cursor and the sounds of the game into a game
-// folder:   pimbalo_assets <game folder>
+// Draws every picture, the hand cursor, the sounds and the icon of the game
+// into a game folder:
+//           pimbalo_assets <game folder>
 // or lays the drawn pictures out for review:
 //           pimbalo_assets --contact-sheet <game folder> <sheet.png>
 #include <QDir>
@@ -11,6 +12,7 @@
 #include "catalogue.h"
 #include "contact_sheet.h"
 #include "cursor.h"
+#include "icon.h"
 #include "sounds.h"
 
 namespace {
@@ -20,6 +22,19 @@ bool writeBytes(const QString& path, const QByteArray& bytes) {
     QFile file(path);
     return file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
            file.write(bytes) == bytes.size();
+}
+
+// The icon set in the desktop's theme layout, so it installs as it stands.
+bool writeIcons(const QDir& game) {
+    const QString apps = QStringLiteral("icons/hicolor/%1/apps/" PIMBALO_APP_ID);
+    bool ok = true;
+    for (int side : assets::iconSides()) {
+        const QString path = game.filePath(apps.arg(QStringLiteral("%1x%1").arg(side)) + ".png");
+        ok = assets::ensureParentFolder(path) && assets::renderIcon(side).save(path, "PNG") && ok;
+    }
+    return writeBytes(game.filePath(apps.arg(QStringLiteral("scalable")) + ".svg"),
+                      assets::iconSvg()) &&
+           ok;
 }
 
 int generate(const QString& folder) {
@@ -41,6 +56,7 @@ int generate(const QString& folder) {
             ++failures;
         }
     }
+    failures += writeIcons(game) ? 0 : 1;
     return failures == 0 ? 0 : 1;
 }
 

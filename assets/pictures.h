@@ -2,6 +2,7 @@
 // The symbol pictures of every picture set. Each function paints one picture
 // into a 100 x 100 square (see canvas.h), filling the whole square.
 #include <QPainter>
+#include <QPainterPath>
 
 namespace assets {
 
@@ -9,6 +10,9 @@ void drawDie(QPainter& painter, int pips);  // 1..6
 
 enum class Shape { Polygon, Triangle, Star, Square, Rectangle, Doughnut };
 void drawShape(QPainter& painter, Shape shape);
+// A shape's outline in the 100 x 100 square, and its colour.
+QPainterPath shapePath(Shape shape);
+QColor shapeColour(Shape shape);
 
 enum class Pattern { Dots, Stripes, Tiles, Triangles, Link };
 void drawPattern(QPainter& painter, Pattern pattern);

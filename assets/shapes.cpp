@@ -24,42 +24,57 @@ QPainterPath softened(const QPainterPath& path, double radius) {
 
 }  // namespace
 
-void drawShape(QPainter& painter, Shape shape) {
-    tileBackground(painter, QColor(255, 255, 255), QColor(232, 236, 244));
+QPainterPath shapePath(Shape shape) {
     const QPointF centre(50, 50);
     QPainterPath path;
-    QColor colour;
     switch (shape) {
         case Shape::Polygon:
             path = regularPolygon(centre, 36, 6, 0);
-            colour = QColor(150, 60, 220);
             break;
         case Shape::Triangle:
             path = regularPolygon(centre + QPointF(0, 7), 40, 3, -90);
-            colour = QColor(30, 180, 60);
             break;
         case Shape::Star:
             path = starPath(centre + QPointF(0, 3), 42, 18, 5);
-            colour = QColor(255, 200, 0);
             break;
         case Shape::Square:
             path.addRect(QRectF(22, 22, 56, 56));
-            colour = QColor(30, 110, 235);
             break;
         case Shape::Rectangle:
             path.addRect(QRectF(12, 31, 76, 38));
-            colour = QColor(235, 40, 40);
             break;
         case Shape::Doughnut:
             path.addEllipse(centre, 36, 36);
             path.addEllipse(centre, 15, 15);
             path.setFillRule(Qt::OddEvenFill);
-            colour = QColor(255, 120, 30);
-            break;
+            return path;
     }
-    if (shape != Shape::Doughnut) path = softened(path, 2.5);
+    return softened(path, 2.5);
+}
+
+QColor shapeColour(Shape shape) {
+    switch (shape) {
+        case Shape::Polygon:
+            return QColor(150, 60, 220);
+        case Shape::Triangle:
+            return QColor(30, 180, 60);
+        case Shape::Star:
+            return QColor(255, 200, 0);
+        case Shape::Square:
+            return QColor(30, 110, 235);
+        case Shape::Rectangle:
+            return QColor(235, 40, 40);
+        case Shape::Doughnut:
+            return QColor(255, 120, 30);
+    }
+    return Qt::black;
+}
+
+void drawShape(QPainter& painter, Shape shape) {
+    tileBackground(painter, QColor(255, 255, 255), QColor(232, 236, 244));
+    const QPainterPath path = shapePath(shape);
     softShadow(painter, path, QPointF(2.5, 3.5), 5);
-    glossyFill(painter, path, colour, 2.2);
+    glossyFill(painter, path, shapeColour(shape), 2.2);
 }
 
 }  // namespace assets

@@ -2,6 +2,7 @@
 // A control array: elements addressed by index, as designed, plus elements
 // created at run time as hidden copies of element 0. The owner's wire()
 // connects each element's events with its index, whenever it is added.
+#include <QString>
 #include <functional>
 #include <map>
 #include <stdexcept>
@@ -26,6 +27,7 @@ class ControlArray {
     // A designed element, made by the screen's layout.
     Control& add(int index, Control* control) {
         items_[index] = control;
+        control->setObjectName(QString::fromStdString(name_ + "(" + std::to_string(index) + ")"));
         if (wire) wire(index, *control);
         return *control;
     }

@@ -25,6 +25,11 @@ std::optional<QString> findEntry(const QString& folder, const QString& name) {
     return std::nullopt;
 }
 
+QString& dataFolderSetting() {
+    static QString folder;
+    return folder;
+}
+
 QHash<QString, QPixmap>& pictureCache() {
     static QHash<QString, QPixmap> cache;
     return cache;
@@ -32,12 +37,20 @@ QHash<QString, QPixmap>& pictureCache() {
 
 }  // namespace
 
+void setDataFolder(const QString& folder) {
+    dataFolderSetting() = folder;
+}
+
 std::optional<QString> findGameFile(const std::string& relativePath) {
+    return findFileBelow(dataFolderSetting(), relativePath);
+}
+
+std::optional<QString> findFileBelow(const QString& folder, const std::string& relativePath) {
     const QString path =
         QString::fromStdString(relativePath).replace(QLatin1Char('\\'), QLatin1Char('/'));
     const QStringList parts = path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
     if (parts.isEmpty()) return std::nullopt;
-    QString found;
+    QString found = folder;
     for (const QString& part : parts) {
         auto next = findEntry(found, part);
         if (!next) return std::nullopt;

@@ -3,6 +3,11 @@
 // and writes the same folder as "Images\" in some places and "images\" in
 // others. These helpers find such files below the working directory without
 // regard to letter case, and load pictures and the hand cursor from them.
+//
+// The folder they are found in is the game's data folder: the working
+// directory, unless the program named another (an installed game reads its
+// pictures from the installed copy and keeps its files in the player's own
+// folder).
 #include <QCursor>
 #include <QPixmap>
 #include <QString>
@@ -11,9 +16,16 @@
 
 namespace platform {
 
+// Where game paths are looked up; empty (the default) means the working
+// directory.
+void setDataFolder(const QString& folder);
+
 // The existing file for a relative game path ("Images\dice\1-4x4.jpg"),
-// matched component by component ignoring case; nullopt when there is none.
+// matched component by component ignoring case below the data folder;
+// nullopt when there is none.
 std::optional<QString> findGameFile(const std::string& relativePath);
+// The same below any folder.
+std::optional<QString> findFileBelow(const QString& folder, const std::string& relativePath);
 
 // A picture from a game path. A missing or unreadable file ends the program
 // after reporting it (fatalFileError). Pictures are cached by file.

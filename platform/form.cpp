@@ -36,6 +36,7 @@ Qt::WindowFlags flagsFor(FormKind kind) {
 Form::Form(std::string name, FormKind kind)
     : QWidget(nullptr, flagsFor(kind)), name_(std::move(name)), kind_(kind) {
     setAttribute(Qt::WA_DeleteOnClose, false);
+    setObjectName(QString::fromStdString(name_));  // for debuggers and test tools
     setWindowTitle(QStringLiteral(" "));
     setMouseTracking(true);
     setAutoFillBackground(true);

@@ -1,7 +1,6 @@
-// The rules screen's pages, and the program finding its game folder.
+// The rules screen's pages.
 #include "platform/files.h"
 #include "screen_fixture.h"
-#include "shell/game_folder.h"
 #include "shell/morvelrules.h"
 
 using namespace shell_test;
@@ -74,22 +73,6 @@ class RulesTests : public ScreenTest {
             QVERIFY(screen<shell::Startplay2>().isVisible());
             QCOMPARE(sounds, clickIfOn);  // pages turn silently
         }
-    }
-
-    void programSettlesWhereThePicturesAre() {
-        const QString before = QDir::currentPath();
-        QTemporaryDir game, other, bare;
-        QVERIFY(QDir(game.path()).mkdir("iMAGES"));  // any letter case
-        QVERIFY(QDir(other.path()).mkdir("Images"));
-        QVERIFY(QDir(bare.path()).mkdir("wav"));
-        const QString gamePath = QDir(game.path()).canonicalPath();
-
-        QVERIFY(QDir::setCurrent(bare.path()));
-        QCOMPARE(shell::settleInGameFolder({bare.path(), game.path(), other.path()}), gamePath);
-        QCOMPARE(QDir::currentPath(), gamePath);
-        // Already among the pictures: stays.
-        QCOMPARE(shell::settleInGameFolder({other.path()}), gamePath);
-        QVERIFY(QDir::setCurrent(before));
     }
 };
 

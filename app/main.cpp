@@ -1,23 +1,26 @@
 // Pimbalo: starts at the title screen. There are no command-line options.
 #include <QApplication>
 
+#include "app/identity.h"
+#include "app/run_folders.h"
 #include "board/register.h"
 #include "platform/form.h"
 #include "records/highscores.h"
-#include "shell/game_folder.h"
 #include "shell/register.h"
 #include "shell/titlefrm.h"
 
 int main(int argc, char* argv[]) {
-    QApplication app(argc, argv);
+    app::setDesktopIdentity();
+    QApplication application(argc, argv);
     // Screens come and go (the title screen is unloaded before the options
     // screen's "Exit" brings it back); only "Exit" ends the game.
     QApplication::setQuitOnLastWindowClosed(false);
-    shell::settleInGameFolder({QStringLiteral(PIMBALO_GAME_DIR), app.applicationDirPath()});
+    app::settle(app::surroundings());
+    QApplication::setWindowIcon(app::gameIcon());
 
     shell::registerScreens();
     board::registerScreens();
     records::registerScreens();
     platform::screens::show(shell::Titlefrm::kName);
-    return app.exec();
+    return application.exec();
 }
