@@ -21,6 +21,8 @@ install(FILES "${_filled}/${PIMBALO_APP_ID}.desktop"
 install(FILES "${_filled}/${PIMBALO_APP_ID}.metainfo.xml"
         DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
 install(FILES "${_filled}/pimbalo.6.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man6")
+install(FILES share/copyright "${_filled}/changelog.gz"
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/pimbalo")
 
 # The Debian package: /usr/games/pimbalo and friends, its Depends worked out
 # from the libraries the program links.
