@@ -61,7 +61,9 @@ manifest() { (cd "$root" && find . -printf '%p %y %m %s %T@\n' | sort && find . 
     sort -z | xargs -0 sha256sum); }
 manifest >"$base/before"
 
-player_env=(env HOME="$base/home" XDG_DATA_HOME="$base/data" XDG_RUNTIME_DIR="$base/runtime"
+# A sanitizer build wants its runtime loaded first; the preloaded reporter is.
+player_env=(env ASAN_OPTIONS="${ASAN_OPTIONS:+$ASAN_OPTIONS:}verify_asan_link_order=0"
+            HOME="$base/home" XDG_DATA_HOME="$base/data" XDG_RUNTIME_DIR="$base/runtime"
             PIMBALO_PROGRAM="$program"
             PIMBALO_PRELOAD="$preload" PIMBALO_START_DIR="$base/elsewhere")
 
