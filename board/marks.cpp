@@ -8,8 +8,8 @@ namespace {
 // The pick is a band just inside the piece (it never covers a neighbour in
 // the close-packed tray); the ring lies just outside its control, so both
 // show when the ring stands on the picked piece.
-constexpr int kPickBand = 6;
-constexpr int kRingBand = 5;
+constexpr int kPickBand = 8;
+constexpr int kRingBand = 6;
 constexpr int kRingGap = 1;
 const QColor kPickColour(255, 214, 0);  // a warm yellow between two dark lines
 const QColor kRingColour(255, 255, 255);
