@@ -139,8 +139,10 @@ void Board::chooseAtRing() {
     }
 }
 
-// Every command may move the pieces, so it ends any pick first.
+// Every command may move the pieces, so it ends any pick first. The 4x4
+// logo among the thumbnails is no command: a click on it changes nothing.
 void Board::runCommand(int command) {
+    if (command >= kThumbnail + layout_.pictureSets) return;
     picking_.letGo();
     showMarks();
     if (command >= kThumbnail)
