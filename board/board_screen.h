@@ -95,6 +95,7 @@ class Board : public platform::Form, public engine::BoardView {
     void keyPressEvent(QKeyEvent* e) override;
     bool focusNextPrevChild(bool next) override;
     void mouseReleaseEvent(QMouseEvent* e) override;
+    bool eventFilter(QObject* watched, QEvent* e) override;
 
   private:
     void createControls();

@@ -9,6 +9,7 @@
 
 #include "board/board_screen.h"
 #include "board/marks.h"
+#include "records/highscores.h"
 
 namespace board {
 namespace {
@@ -139,6 +140,18 @@ void Board::chooseAtRing() {
     }
 }
 
+// While the fastest times are open just for looking (no name box has the
+// focus), the keys still play the board behind them, so the command that
+// closes them is a key away.
+bool Board::eventFilter(QObject* watched, QEvent* e) {
+    if (e->type() == QEvent::KeyPress && !QApplication::focusWidget() &&
+        watched == platform::screens::loaded(records::Highscores::kName)) {
+        keyPressEvent(static_cast<QKeyEvent*>(e));
+        return e->isAccepted();
+    }
+    return Form::eventFilter(watched, e);
+}
+
 // Every command may move the pieces, so it ends any pick first. The 4x4
 // logo among the thumbnails is no command: a click on it changes nothing.
 void Board::runCommand(int command) {
@@ -149,6 +162,8 @@ void Board::runCommand(int command) {
         Image4_Click(command - kThumbnail);
     else
         Label3_Click(command);
+    if (auto* scores = platform::screens::loaded(records::Highscores::kName))
+        scores->installEventFilter(this);
     if (platform::screens::loaded(screenName()) == this) showMarks();
 }
 

@@ -513,6 +513,20 @@ class BoardTests : public QObject {
         takeSounds();
         key(Qt::Key_Enter);
         QCOMPARE(takeSounds(), Sounds{"wav\\METAL2.wav"});
+
+        // The fastest times opened from the keyboard take the keys, yet the
+        // ring still walks the board's commands, and the next one closes them.
+        for (int i = 0; i < 4; ++i) key(Qt::Key_Down);
+        QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Label3(FastestTimes).geometry()));
+        key(Qt::Key_Return);
+        QVERIFY(scores() && scores()->isVisible());
+        QTRY_COMPARE(QGuiApplication::focusWindow(), scores()->windowHandle());
+        for (Qt::Key k : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Up})
+            QTest::keyClick(QGuiApplication::focusWindow(), k);
+        QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Label3(StartAgain).geometry()));
+        QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Return);
+        QVERIFY(!scores());
+        QCOMPARE(takeSounds(), kSpace);
     }
 
     // Assistive technology hears the captions of the commands, the level,
