@@ -3,6 +3,7 @@
 #include <string>
 
 #include "board/catalogue.h"
+#include "board/marks.h"
 #include "records/fastest_times.h"
 #include "records/highscores.h"
 #include "shell/common.h"
@@ -56,10 +57,15 @@ Board::Board(const BoardLayout& layout)
       Timer1(this, kTimerInterval),
       Timer2(this, kTimerInterval),
       layout_(layout),
-      game_(layout.boardsize, *this, random_) {
+      game_(layout.boardsize, *this, random_),
+      picking_(game_, *this),
+      ring_(ringLayout(layout)) {
     setBackColor(platform::bgr(kDesignBackground));
     wireEvents();
     createControls();
+    pickMark_ = new Mark(this, Mark::Kind::Pick);
+    ringMark_ = new Mark(this, Mark::Kind::Ring);
+    describeControls();
 }
 
 // Creation order is stacking order: the regions at the back, then the texts,
@@ -127,7 +133,13 @@ void Board::createPictures() {
 }
 
 void Board::wireEvents() {
+    Image1.wire = [this](int i, platform::PictureBox& cell) {
+        cell.on.click = [this, i] { chooseCell(i); };
+    };
     Image2.wire = [this](int i, platform::PictureBox& piece) {
+        piece.on.mouseDown = [this, i](int b, int s, float x, float y) {
+            Image2_MouseDown(i, b, s, x, y);
+        };
         piece.on.mouseMove = [this, i](int b, int s, float x, float y) {
             Image2_MouseMove(i, b, s, x, y);
         };
@@ -135,14 +147,21 @@ void Board::wireEvents() {
             Image2_MouseUp(i, b, s, x, y);
         };
     };
+    Image3.wire = [this](int i, platform::PictureBox& slot) {
+        slot.on.click = [this, i] { chooseSlot(i); };
+    };
     Image4.wire = [this](int i, platform::PictureBox& thumbnail) {
-        thumbnail.on.click = [this, i] { Image4_Click(i); };
+        thumbnail.on.click = [this, i] { runCommand(kThumbnail + i); };
+    };
+    // A marker lies on a given piece, so a click on it is a click on its cell.
+    Image5.wire = [this](int i, platform::PictureBox& marker) {
+        marker.on.click = [this, i] { chooseCell(i); };
     };
     Label3.wire = [this](int i, platform::Label& command) {
         command.on.mouseMove = [this, i](int b, int s, float x, float y) {
             Label3_MouseMove(i, b, s, x, y);
         };
-        command.on.click = [this, i] { Label3_Click(i); };
+        command.on.click = [this, i] { runCommand(i); };
     };
     Timer1.onTimer = [this] { Timer1_Timer(); };
     Timer2.onTimer = [this] { Timer2_Timer(); };
@@ -213,12 +232,19 @@ void Board::Form_QueryUnload() {
     Label3_Click(0);
 }
 
+void Board::Image2_MouseDown(int index, int button, int, float x, float y) {
+    picking_.pressed(index, button, x, y);
+}
+
 void Board::Image2_MouseMove(int index, int button, int, float x, float y) {
+    if (picking_.moved(index, button, x, y)) showMarks();
     if (game_.pieceMouseMove(index, button, x, y, {Width(), Height()})) setMouseIcon(kHandCursor);
 }
 
-void Board::Image2_MouseUp(int index, int, int, float, float) {
+void Board::Image2_MouseUp(int index, int button, int, float, float) {
     game_.pieceMouseUp(index, options());
+    picking_.released(index, button);
+    showMarks();
 }
 
 void Board::Label3_MouseMove(int, int, int, float, float) {
@@ -231,6 +257,7 @@ void Board::Timer1_Timer() {
 
 void Board::Timer2_Timer() {
     game_.timer2Tick(options());
+    showMarks();  // the verdict may have hidden the command the ring was on
 }
 
 engine::Options Board::options() const {
@@ -305,6 +332,8 @@ void Board::loadPicture(engine::Pic pic, int index, const std::string& path) {
 }
 void Board::bringToFront(engine::Pic pic, int index) {
     picture(pic, index).raise();
+    pickMark_->keepOnTop();
+    ringMark_->keepOnTop();
 }
 std::string Board::caption(engine::Lab which) const {
     return label(which).Caption();

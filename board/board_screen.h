@@ -3,9 +3,14 @@
 // "jigsaw6x6"), laid out from its BoardLayout. The screen only shows the game
 // and forwards events; every rule of play lives in engine::Game, which reaches
 // the controls through the BoardView operations below.
+#include <optional>
+#include <vector>
+
 #include "board/board_layout.h"
 #include "engine/board_view.h"
+#include "engine/focus_ring.h"
 #include "engine/game.h"
+#include "engine/picking.h"
 #include "engine/random_source.h"
 #include "platform/control_array.h"
 #include "platform/controls.h"
@@ -14,6 +19,8 @@
 
 namespace board {
 
+class Mark;
+
 class Board : public platform::Form, public engine::BoardView {
   public:
     explicit Board(const BoardLayout& layout);
@@ -21,11 +28,18 @@ class Board : public platform::Form, public engine::BoardView {
     const BoardLayout& layout() const { return layout_; }
     engine::Game& game() { return game_; }
     const engine::Game& game() const { return game_; }
+    const engine::Picking& picking() const { return picking_; }
+    const engine::FocusRing& ring() const { return ring_; }
+    // The marks of playing without dragging, while shown: around the picked
+    // piece and around what the keyboard's ring stands on (window pixels).
+    std::optional<QRect> pickMarked() const;
+    std::optional<QRect> ringMarked() const;
 
     // Screen events.
     void Form_Load() override;
     void Form_MouseMove(int button, int shift, float x, float y) override;
     void Form_QueryUnload() override;  // closing the window is "Exit"
+    void Image2_MouseDown(int index, int button, int shift, float x, float y);
     void Image2_MouseMove(int index, int button, int shift, float x, float y);
     void Image2_MouseUp(int index, int button, int shift, float x, float y);
     void Label3_MouseMove(int index, int button, int shift, float x, float y);
@@ -76,6 +90,13 @@ class Board : public platform::Form, public engine::BoardView {
     void playwav(const std::string& path) override;
     void checkhighscore() override;
 
+  protected:
+    // Playing without dragging (hand_play.cpp).
+    void keyPressEvent(QKeyEvent* e) override;
+    bool focusNextPrevChild(bool next) override;
+    void mouseReleaseEvent(QMouseEvent* e) override;
+    bool eventFilter(QObject* watched, QEvent* e) override;
+
   private:
     void createControls();
     void createLabels();
@@ -94,9 +115,27 @@ class Board : public platform::Form, public engine::BoardView {
     void switchPanel();
     void startNewGame();  // setpicture, setsolution, setstart
 
+    // Playing without dragging (hand_play.cpp): clicks and keys become the
+    // engine's picks and drops, commands run as if clicked.
+    void chooseCell(int cell);
+    void chooseSlot(int slot);
+    void afterChoice(engine::Picking::Choice choice);
+    void chooseAtRing();
+    void runCommand(int command);  // a Label3 index, or kThumbnail + an Image4 index
+    std::vector<int> keyboardCommands() const;
+    std::optional<QRect> ringTarget() const;
+    void showMarks();
+    void describeControls();  // names for assistive technology (accessible_board.cpp)
+    static engine::RingLayout ringLayout(const BoardLayout& layout);
+    static constexpr int kThumbnail = 100;
+
     const BoardLayout& layout_;
     engine::ClockRandom random_;
     engine::Game game_;
+    engine::Picking picking_;
+    engine::FocusRing ring_;
+    Mark* pickMark_ = nullptr;
+    Mark* ringMark_ = nullptr;
 };
 
 }  // namespace board

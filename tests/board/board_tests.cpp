@@ -2,12 +2,14 @@
 // mouse events through the window: start-up, drag and drop, the check a full
 // grid starts, and the commands. Positions are window pixels; the boards'
 // twips are all multiples of 15, so every position below is exact.
+#include <QAccessible>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <set>
 
 #include "board/board_screen.h"
 #include "board/catalogue.h"
+#include "board/picture_names.h"
 #include "board/register.h"
 #include "platform/fatal.h"
 #include "platform/files.h"
@@ -394,6 +396,170 @@ class BoardTests : public QObject {
         }
         QVERIFY(!ended);
         platform::screens::setEndHandler({});
+    }
+
+    // Playing without dragging. A click picks a piece and a click on a cell
+    // drops it there; on a given it bounces off; a click on another movable
+    // piece moves the pick to it; Escape, a drag or an empty tray slot ends it.
+    void clickToPlace() {
+        Board& b = open(0);
+        const int cell = firstCell(b, false), piece = solutionPiece(b, cell);
+        const int given = firstCell(b, true), fixed = pieceOn(b, given);
+        const auto& p = b.Image2(piece);
+        click(b, p);
+        QCOMPARE(b.picking().picked(), piece);
+        QCOMPARE(b.pickMarked(), std::optional<QRect>(p.geometry()));
+        QCOMPARE(takeSounds(), kClick1);  // a click is still a drop where the piece lies
+        click(b, b.Image1(cell));
+        QVERIFY(liesOn(p, b.Image1(cell)) && !b.pickMarked() && b.hasMouseIcon());
+        QVERIFY(!b.Label3(NewPuzzle).Visible() && b.Label3(ShowSolution).Visible());
+        QCOMPARE(takeSounds(), kClick1);
+
+        // The given piece takes no clicks of its own, nor does its marker.
+        for (const PictureBox* onGiven : {&b.Image2(fixed), &b.Image5(given)}) {
+            click(b, p);
+            click(b, *onGiven);
+            QCOMPARE(corner(p), corner(b.Image1(given)) + QPointF(600, -600));
+            QCOMPARE(b.picking().picked(), -1);
+            dragTo(b, piece, b.Image1(cell));
+        }
+        QCOMPARE(pieceOn(b, given), fixed);
+
+        int second = cell + 1;
+        while (isGiven(b, second)) ++second;
+        const int other = solutionPiece(b, second);
+        click(b, b.Image2(other));
+        click(b, p);  // a movable piece on a cell: the pick moves to it
+        QCOMPARE(b.picking().picked(), piece);
+        QVERIFY(liesOn(p, b.Image1(cell)));
+        QTest::keyClick(b.windowHandle(), Qt::Key_Escape);
+        QVERIFY(b.picking().picked() == -1 && !b.pickMarked());
+
+        click(b, p);
+        dragTo(b, other, b.Image3(other), 200, 200);  // any drag lets go
+        QVERIFY(b.picking().picked() == -1 && !b.pickMarked());
+        click(b, p);
+        click(b, b.Image3(piece));  // its slot is empty: home it goes
+        QVERIFY(liesOn(p, b.Image3(piece)) && b.picking().picked() == -1);
+        click(b, p);
+        click(b, b.Label3(StartAgain));  // commands end the pick too
+        QVERIFY(b.picking().picked() == -1 && !b.pickMarked());
+    }
+
+    // A whole 4x4 puzzle from the keyboard: the ring walks the tray, Enter
+    // picks, Tab goes to the grid, Space puts the piece down, Shift+Tab goes
+    // back. The verdict, and the name box it opens, keep the keys away from
+    // the board: they all go into the name.
+    void keyboardPlaysAWholePuzzle() {
+        auto& m = shell::module1();
+        for (auto& t : m.besttime[0][2]) t = 0;
+        Board& b = open(0, 2, 1);
+        QVERIFY(QTest::qWaitForWindowActive(&b));
+        b.Timer1.setEnabled(false);
+        b.Timer1.tick();
+        QWindow* window = b.windowHandle();
+        auto key = [&](Qt::Key k, Qt::KeyboardModifiers mods = {}) {
+            QTest::keyClick(window, k, mods);
+        };
+        key(Qt::Key_Return);  // the first key only shows the ring
+        QVERIFY(b.ring().shown() && b.picking().picked() == -1);
+        QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Image3(0).geometry()));
+        const int columns = b.layout().trayColumns;
+        for (int c = 0; c < b.cellcount; ++c) {
+            if (isGiven(b, c)) continue;
+            const int piece = solutionPiece(b, c);
+            while (b.ring().slot() / columns != piece / columns)
+                key(b.ring().slot() / columns < piece / columns ? Qt::Key_Down : Qt::Key_Up);
+            while (b.ring().slot() != piece)
+                key(b.ring().slot() < piece ? Qt::Key_Right : Qt::Key_Left);
+            key(Qt::Key_Return);
+            QCOMPARE(b.pickMarked(), std::optional<QRect>(b.Image2(piece).geometry()));
+            key(Qt::Key_Tab);
+            while (b.ring().cell() / 4 != c / 4)
+                key(b.ring().cell() / 4 < c / 4 ? Qt::Key_Down : Qt::Key_Up);
+            while (b.ring().cell() != c) key(b.ring().cell() < c ? Qt::Key_Right : Qt::Key_Left);
+            QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Image1(c).geometry()));
+            key(Qt::Key_Space);
+            QVERIFY(liesOn(b.Image2(piece), b.Image1(c)));
+            key(Qt::Key_Tab, Qt::ShiftModifier);
+        }
+        QVERIFY(b.Timer2.Enabled());
+        b.Timer2.tick();
+        QCOMPARE(b.Label7->Caption(), std::string("Correct in 1 seconds!!!"));
+        QVERIFY(scores());
+        QTRY_VERIFY(scores()->Text1(2).hasFocus());
+
+        const auto before = b.ring().zone();
+        const int slot = b.ring().slot();
+        for (Qt::Key k : {Qt::Key_Z, Qt::Key_O, Qt::Key_E, Qt::Key_Return, Qt::Key_Escape,
+                          Qt::Key_Space, Qt::Key_Left})
+            QTest::keyClick(QGuiApplication::focusWindow(), k);
+        key(Qt::Key_Tab);  // even sent to the board's own window
+        QCOMPARE(scores()->Text1(2).text(), QString("zoe "));
+        QVERIFY(scores()->isVisible() && b.ring().zone() == before && b.ring().slot() == slot);
+        QCOMPARE(b.Label7->Caption(), std::string("Correct in 1 seconds!!!"));
+
+        // Back on the board, Tab reaches the commands and Enter runs one.
+        click(b, b.Label3(StartAgain));
+        QVERIFY(!scores());
+        b.activateWindow();
+        key(Qt::Key_Tab);
+        key(Qt::Key_Tab);
+        QCOMPARE(b.ring().zone(), engine::Zone::Commands);
+        QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Label3(ShowSolution).geometry()));
+        key(Qt::Key_Down);
+        QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Label3(NewPuzzle).geometry()));
+        key(Qt::Key_Up);
+        takeSounds();
+        key(Qt::Key_Enter);
+        QCOMPARE(takeSounds(), Sounds{"wav\\METAL2.wav"});
+
+        // The fastest times opened from the keyboard take the keys, yet the
+        // ring still walks the board's commands, and the next one closes them.
+        for (int i = 0; i < 4; ++i) key(Qt::Key_Down);
+        QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Label3(FastestTimes).geometry()));
+        key(Qt::Key_Return);
+        QVERIFY(scores() && scores()->isVisible());
+        QTRY_COMPARE(QGuiApplication::focusWindow(), scores()->windowHandle());
+        for (Qt::Key k : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Up})
+            QTest::keyClick(QGuiApplication::focusWindow(), k);
+        QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Label3(StartAgain).geometry()));
+        QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Return);
+        QVERIFY(!scores());
+        QCOMPARE(takeSounds(), kSpace);
+    }
+
+    // Assistive technology hears the captions of the commands, the level,
+    // the clock and the banner, and each cell's row, column and picture.
+    void assistiveTechnologyHearsTheBoard() {
+        Board& b = open(1, 1, 1);
+        auto said = [](QObject& control, QAccessible::Text t = QAccessible::Name) {
+            return QAccessible::queryAccessibleInterface(&control)->text(t);
+        };
+        QCOMPARE(said(b.Label1(0)), QString("2"));
+        QCOMPARE(said(b.Label1(0), QAccessible::Description), QString("Level"));
+        b.Timer1.tick();
+        QCOMPARE(said(b.Label2(1)), QString("1"));
+        b.Label7->setCaption("Wrong, Try Again");
+        QCOMPARE(said(*b.Label7), QString("Wrong, Try Again"));
+
+        auto* panel = QAccessible::queryAccessibleInterface(&b.Label3(SwitchPanel));
+        QCOMPARE(panel->role(), QAccessible::Button);
+        QCOMPARE(panel->text(QAccessible::Name), QString("Change Pictures"));
+        panel->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(panel->text(QAccessible::Name), QString("Show Rules"));
+
+        const auto& set = board::catalogue(1).at(b.pictureset);
+        const int given = firstCell(b, true), cell = firstCell(b, false);
+        const int piece = solutionPiece(b, cell);
+        const QString picture = QString::fromStdString(board::pictureName(set, piece / 5 + 1));
+        QCOMPARE(said(b.Image1(cell)),
+                 QString("Row %1, column %2: empty").arg(cell / 5 + 1).arg(cell % 5 + 1));
+        dragTo(b, piece, b.Image1(cell));
+        QCOMPARE(said(b.Image1(cell)),
+                 QString("Row %1, column %2: ").arg(cell / 5 + 1).arg(cell % 5 + 1) + picture);
+        QCOMPARE(said(b.Image1(given), QAccessible::Description),
+                 QString("Given, cannot be moved"));
     }
 };
 

@@ -198,6 +198,11 @@ wait_gone Startplay2
 shot board
 mapfile -t moves < <(state | awk '$1 == "move" { print $2, $3, $4, $5 }')
 ((${#moves[@]} > 0)) || fail "the board reported no moves"
+if [[ ${E2E_PLAY:-drag} != drag ]]; then  # click or keys: no drags at all
+    source "$(dirname "${BASH_SOURCE[0]}")/play_without_drag.sh"
+    "play_by_$E2E_PLAY"
+    moves=()
+fi
 echo "dragging ${#moves[@]} pieces"
 for move in "${moves[@]}"; do
     # shellcheck disable=SC2086

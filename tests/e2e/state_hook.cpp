@@ -6,6 +6,13 @@
 //   screen <name> <x> <y>         client-area origin of a shown screen
 //   move <fx> <fy> <tx> <ty>      piece centre to its solution cell's centre
 //   textbox <x> <y>               centre of the text box holding the focus
+//
+// and, for playing a board without dragging:
+//
+//   layout <n> <tray columns>     the board's size and how wide its tray is
+//   place <piece> <cell>          a piece (its tray slot) and the cell it solves
+//   ring <zone> <index> <shown>   where the keyboard's ring stands (0 tray, 1 grid, 2 commands)
+//   picked <piece>                the picked piece, -1 for none
 #include <QApplication>
 #include <QFile>
 #include <QLineEdit>
@@ -42,6 +49,24 @@ void writeMoves(std::ostream& out, board::Board& board) {
     }
 }
 
+// The same solution as indices, for the keyboard, and what the player has
+// picked and where the ring stands.
+void writeHandPlay(std::ostream& out, board::Board& board) {
+    const engine::Game& game = board.game();
+    const int n = game.n();
+    out << "layout " << n << ' ' << board.layout().trayColumns << '\n';
+    for (int y = 0; y < n; ++y) {
+        for (int x = 0; x < n; ++x) {
+            if (game.given[x][y] == 1) continue;
+            out << "place " << (game.solution[x][y] - 1) * n + y << ' ' << x + n * y << '\n';
+        }
+    }
+    const engine::FocusRing& ring = board.ring();
+    const int index = ring.zone() == engine::Zone::Grid ? ring.cell() : ring.slot();
+    out << "ring " << static_cast<int>(ring.zone()) << ' ' << index << ' ' << ring.shown() << '\n';
+    out << "picked " << board.picking().picked() << '\n';
+}
+
 std::string describeScreens() {
     std::ostringstream out;
     for (const char* name : kScreens) {
@@ -50,6 +75,7 @@ std::string describeScreens() {
         const QPoint origin = form->mapToGlobal(QPoint(0, 0));
         out << "screen " << name << ' ' << origin.x() << ' ' << origin.y() << '\n';
         if (auto* board = dynamic_cast<board::Board*>(form)) writeMoves(out, *board);
+        if (auto* board = dynamic_cast<board::Board*>(form)) writeHandPlay(out, *board);
     }
     if (auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
         box && box->isVisible()) {
