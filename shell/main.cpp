@@ -2,6 +2,7 @@
 #include <QApplication>
 
 #include "board/register.h"
+#include "platform/display_server.h"
 #include "platform/form.h"
 #include "records/highscores.h"
 #include "shell/game_folder.h"
@@ -9,6 +10,7 @@
 #include "shell/titlefrm.h"
 
 int main(int argc, char* argv[]) {
+    platform::preferX11OnWayland();
     QApplication app(argc, argv);
     // Screens come and go (the title screen is unloaded before the options
     // screen's "Exit" brings it back); only "Exit" ends the game.

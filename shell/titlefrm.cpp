@@ -50,8 +50,7 @@ void Titlefrm::Form_Load() {
 }
 
 bool Titlefrm::loadEverything() {
-    setTop(platform::screenHeightTwips() / 2 - Height() / 2);
-    setLeft(platform::screenWidthTwips() / 2 - Width() / 2);
+    centreOnScreen();
     if (!loadPictures()) return false;
 
     // Options read before a failure keep their new values, the others stay.
