@@ -13,6 +13,7 @@
 #include "platform/files.h"
 #include "platform/form.h"
 #include "platform/sound.h"
+#include "platform/wav_file.h"
 #include "shell/common.h"
 
 using namespace platform;
@@ -263,6 +264,43 @@ class PlatformTests : public QObject {
         preferX11OnWayland();
         qunsetenv("WAYLAND_DISPLAY");
         QCOMPARE(qgetenv("QT_QPA_PLATFORM"), chosen);
+    }
+
+    void wavFilesGiveTheirSamples() {
+        auto chunk = [](const char* id, QByteArray body) {
+            QByteArray c(id, 4);
+            const quint32 n = quint32(body.size());
+            c.append(reinterpret_cast<const char*>(&n), 4).append(body);
+            if (n & 1) c.append('\0');
+            return c;
+        };
+        auto fmt = [](quint16 encoding, quint16 channels, quint16 bits) {
+            QByteArray f(16, '\0');
+            qToLittleEndian<quint16>(encoding, f.data());
+            qToLittleEndian<quint16>(channels, f.data() + 2);
+            qToLittleEndian<quint32>(22050, f.data() + 4);
+            qToLittleEndian<quint16>(bits, f.data() + 14);
+            return f;
+        };
+        auto wav = [](QByteArray chunks) { return "RIFF" + QByteArray(4, '\0') + "WAVE" + chunks; };
+
+        // A list chunk of odd length before the samples; a stray half frame.
+        PcmSound s = parseWav(
+            wav(chunk("fmt ", fmt(1, 2, 16)) + chunk("LIST", "abc") + chunk("data", "0123456789")));
+        QVERIFY(s.playable());
+        QCOMPARE(s.format.sampleFormat(), QAudioFormat::Int16);
+        QCOMPARE(s.format.channelCount(), 2);
+        QCOMPARE(s.format.sampleRate(), 22050);
+        QCOMPARE(s.samples, QByteArray("01234567"));
+
+        // A file cut short keeps the samples it has.
+        QByteArray cut = wav(chunk("fmt ", fmt(1, 1, 8)) + chunk("data", "abcdef"));
+        cut.chop(2);
+        QCOMPARE(parseWav(cut).samples, QByteArray("abcd"));
+
+        QVERIFY(!parseWav(wav(chunk("fmt ", fmt(2, 1, 4)) + chunk("data", "ab"))).playable());
+        QVERIFY(!parseWav(wav(chunk("data", "ab"))).playable());
+        QVERIFY(!parseWav("RIFF").playable());
     }
 
     void missingSoundsAreSilentButSeen() {
