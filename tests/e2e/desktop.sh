@@ -70,7 +70,9 @@ desktop_start() {
         desktop_need "$desktop_wm" xprop xwininfo wmctrl
         case $desktop_wm in
             openbox) openbox --sm-disable >"$out/wm.log" 2>&1 & ;;
-            xfwm4) xfwm4 --compositor=off --sm-client-disable >"$out/wm.log" 2>&1 & ;;
+            # Its settings come over D-Bus, so it gets a session bus of its own.
+            xfwm4) dbus-run-session -- xfwm4 --compositor=off --sm-client-disable \
+                >"$out/wm.log" 2>&1 & ;;
             *) fail "unknown window manager $desktop_wm" ;;
         esac
         local _
