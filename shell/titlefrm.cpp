@@ -2,7 +2,6 @@
 
 #include <QImageReader>
 
-#include "platform/desktop.h"
 #include "platform/files.h"
 #include "records/inf_files.h"
 #include "shell/common.h"
