@@ -156,6 +156,7 @@ expect_rect() {  # name x y width height
     local rect
     rect=$(outer_rect "$(window_id "$1")")
     [[ $rect == "$2 $3 $4 $5" ]] || fail "$1 lies at $rect, not at $2 $3 $4 $5"
+    echo "placed $1: outer $rect"
 }
 
 # Asks the window manager to close a window, as a player would.
