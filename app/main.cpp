@@ -4,12 +4,14 @@
 #include "app/identity.h"
 #include "app/run_folders.h"
 #include "board/register.h"
+#include "platform/display_server.h"
 #include "platform/form.h"
 #include "records/highscores.h"
 #include "shell/register.h"
 #include "shell/titlefrm.h"
 
 int main(int argc, char* argv[]) {
+    platform::preferX11OnWayland();
     app::setDesktopIdentity();
     QApplication application(argc, argv);
     // Screens come and go (the title screen is unloaded before the options

@@ -4,18 +4,36 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
 #include <map>
 
 #include "platform/controls.h"
+#include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/twips.h"
 
 namespace platform {
 
 namespace {
+// The name of the full-size screen shown last: an overlay lies over it.
+std::string& lastFullSizeShown() {
+    static std::string name;
+    return name;
+}
+
+// The frame the window manager gave the last framed window. Every framed
+// screen gets the same one, so the next is centred right before it is shown.
+QSize& knownFrame() {
+    static QSize frame;
+    return frame;
+}
+
+// An overlay's border: the same shade as its "Continue" button.
+const QColor kOverlayBorderColour = Qt::black;
+
 Qt::WindowFlags flagsFor(FormKind kind) {
     switch (kind) {
         case FormKind::Fixed:
@@ -25,8 +43,11 @@ Qt::WindowFlags flagsFor(FormKind kind) {
             // A click on the backdrop must never lift it over the game.
             return Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnBottomHint |
                    Qt::WindowDoesNotAcceptFocus;
-        case FormKind::FullSize:
         case FormKind::Overlay:
+            // A dialog, so that window managers read whose window it is and
+            // keep it above that one.
+            return Qt::Dialog | Qt::FramelessWindowHint;
+        case FormKind::FullSize:
             return Qt::Window | Qt::FramelessWindowHint;
     }
     return Qt::Window;
@@ -41,6 +62,12 @@ Form::Form(std::string name, FormKind kind)
     setMouseTracking(true);
     setAutoFillBackground(true);
     setBackColor(Qt::white);
+    if (kind_ == FormKind::Overlay) {
+        client_ = new QWidget(this);
+        client_->move(toPixels(kOverlayBorderTwips), toPixels(kOverlayBorderTwips));
+        client_->setMouseTracking(true);
+        keepAbove([] { return screens::loaded(lastFullSizeShown()); });
+    }
 }
 
 void Form::Form_MouseMove(int, int, float, float) {}
@@ -56,10 +83,18 @@ float Form::Top() const {
     return top_;
 }
 float Form::Width() const {
-    return toTwips(frameGeometry().width());
+    return toTwips(outerSize().width());
 }
 float Form::Height() const {
-    return toTwips(frameGeometry().height());
+    return toTwips(outerSize().height());
+}
+
+// Until a framed window is framed, its outer size is that of the frame the
+// last framed window got (none when it is the first).
+QSize Form::outerSize() const {
+    const QSize frame = frameGeometry().size() - size();
+    if (kind_ == FormKind::Fixed && frame.isNull()) return size() + knownFrame();
+    return frameGeometry().size();
 }
 
 void Form::setLeft(float twips) {
@@ -73,13 +108,32 @@ void Form::setTop(float twips) {
 }
 
 void Form::setOuterSize(float widthTwips, float heightTwips) {
-    const QSize frame = frameGeometry().size() - geometry().size();
+    const QSize frame = outerSize() - size();
     const QSize outer(toPixels(widthTwips), toPixels(heightTwips));
     setFixedSize(outer - frame);
 }
 
 void Form::setClientSize(float widthTwips, float heightTwips) {
-    setFixedSize(toPixels(widthTwips), toPixels(heightTwips));
+    const QSize inside(toPixels(widthTwips), toPixels(heightTwips));
+    if (client_ == this) {
+        setFixedSize(inside);
+        return;
+    }
+    const int border = toPixels(kOverlayBorderTwips);
+    client_->setFixedSize(inside);
+    setFixedSize(inside + QSize(2 * border, 2 * border));
+}
+
+void Form::centreOnScreen() {
+    centred_ = true;
+    placeCentred();
+}
+
+// top = screen height / 2 - window height / 2; left likewise, by outer size.
+void Form::placeCentred() {
+    centredWithFrame_ = outerSize() - size();
+    setTop(screenHeightTwips() / 2 - Height() / 2);
+    setLeft(screenWidthTwips() / 2 - Width() / 2);
 }
 
 void Form::setBackColor(const QColor& c) {
@@ -100,14 +154,31 @@ void Form::clearMouseIcon() {
     hasIcon_ = false;
 }
 
+Form* Form::owner() const {
+    Form* found = findOwner_ ? findOwner_() : nullptr;
+    return found != this && found && found->isVisible() ? found : nullptr;
+}
+
+void Form::keepAbove(std::function<Form*()> findOwner) {
+    findOwner_ = std::move(findOwner);
+    // Window managers keep a dialog above the window it names as its owner
+    // (WM_TRANSIENT_FOR); a plain window they stack as the player clicks.
+    setWindowFlags((windowFlags() & ~Qt::WindowType_Mask) | Qt::Dialog);
+}
+
+// Told once per showing, before the window is mapped: the window manager
+// reads the owner when the window appears.
+void Form::tieToOwner() {
+    if (!findOwner_) return;
+    Form* over = owner();
+    winId();  // the native window, so that it can name its owner
+    if (over) over->winId();
+    windowHandle()->setTransientParent(over ? over->windowHandle() : nullptr);
+}
+
 void Form::Show() {
-    // An overlay belongs to the screen it is laid over (the one in use), so a
-    // window manager keeps it above that screen when the player clicks there.
-    if (kind_ == FormKind::Overlay && !isVisible()) {
-        winId();  // makes the native window, so it can have a parent window
-        QWindow* over = QGuiApplication::focusWindow();
-        if (over && over != windowHandle()) windowHandle()->setTransientParent(over);
-    }
+    if (!isVisible()) tieToOwner();
+    if (kind_ == FormKind::FullSize) lastFullSizeShown() = name_;
     show();
     // The offscreen platform used by the tests has no stacking to change.
     if (QGuiApplication::platformName() != QLatin1String("offscreen")) raise();
@@ -117,6 +188,26 @@ void Form::Show() {
 void Form::mouseMoveEvent(QMouseEvent* e) {
     Form_MouseMove(buttonState(e->buttons()), shiftState(e->modifiers()),
                    toTwips(e->position().x()), toTwips(e->position().y()));
+}
+
+// A framed window learns its frame only after the window manager framed it;
+// that moves the window, so a centred one is centred again here.
+void Form::moveEvent(QMoveEvent* e) {
+    QWidget::moveEvent(e);
+    if (kind_ != FormKind::Fixed || !isVisible()) return;
+    const QSize frame = frameGeometry().size() - size();
+    if (frame.isNull()) return;
+    knownFrame() = frame;
+    if (centred_ && frame != centredWithFrame_) placeCentred();
+}
+
+void Form::paintEvent(QPaintEvent* e) {
+    QWidget::paintEvent(e);
+    if (client_ == this) return;
+    QPainter painter(this);
+    const int border = client_->x();
+    painter.fillRect(rect(), kOverlayBorderColour);
+    painter.fillRect(rect().adjusted(border, border, -border, -border), back_);
 }
 
 void Form::closeEvent(QCloseEvent* e) {

@@ -13,8 +13,12 @@ enum class FormKind {
     FullSize,  // borderless, sized and centred by the game (1024 x 768 pixels)
     Fixed,     // a small framed window of a fixed client size
     Backdrop,  // borderless, covering the whole screen
-    Overlay,   // borderless, laid over a full-size screen
+    Overlay,   // laid over a full-size screen, with a thin border of its own
 };
+
+// The width of an overlay's own border: its client area is 150 twips narrower
+// than a full-size screen, so with this border it covers that screen's width.
+constexpr float kOverlayBorderTwips = 75.0f;
 
 class Form : public QWidget {
     Q_OBJECT
@@ -27,8 +31,14 @@ class Form : public QWidget {
     virtual void Form_Load() {}
     // The pointer moves over the window's own background.
     virtual void Form_MouseMove(int button, int shift, float x, float y);
-    // The window manager asks to close the window: by default the game ends.
+    // The window manager asks to close the window (its close button, Alt+F4):
+    // by default the game ends, as the title screen's "Exit" ends it.
     virtual void Form_QueryUnload();
+
+    // Where the screen's controls live: the window itself, or for an overlay
+    // the area inside its border.
+    QWidget* client() { return client_; }
+    const QWidget* client() const { return client_; }
 
     // Outer geometry in twips (the window frame included).
     float Left() const;
@@ -39,6 +49,9 @@ class Form : public QWidget {
     void setTop(float twips);
     void setOuterSize(float widthTwips, float heightTwips);
     void setClientSize(float widthTwips, float heightTwips);
+    // Centres the outer window on the screen. A framed window is centred
+    // again once the window manager has framed it, so its frame is counted.
+    void centreOnScreen();
 
     void setBackColor(const QColor& c);
     QColor BackColor() const { return back_; }
@@ -50,16 +63,34 @@ class Form : public QWidget {
 
     void Show();  // show, on top of the others, and take the focus
 
+    // The screen this one is kept above by the window manager while both are
+    // shown, or nullptr. An overlay is kept above the full-size screen shown
+    // last, the one it is laid over.
+    Form* owner() const;
+
   protected:
+    // The screen stays above the one `findOwner` gives when it is shown.
+    void keepAbove(std::function<Form*()> findOwner);
+
     void mouseMoveEvent(QMouseEvent* e) override;
+    void moveEvent(QMoveEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
+    void paintEvent(QPaintEvent* e) override;
 
   private:
+    QSize outerSize() const;
+    void placeCentred();
+    void tieToOwner();
+
     std::string name_;
     FormKind kind_;
+    QWidget* client_ = this;
     QColor back_;
     bool hasIcon_ = false;
     float left_ = 0, top_ = 0;  // twips as last written, so reads are exact
+    std::function<Form*()> findOwner_;
+    bool centred_ = false;
+    QSize centredWithFrame_;  // the frame counted when it was last centred
 };
 
 namespace screens {

@@ -1,22 +1,56 @@
 #include "platform/sound.h"
 
-#include <QFileInfo>
-#include <QSoundEffect>
-#include <QUrl>
+#include <QAudioSink>
+#include <QBuffer>
+#include <QFile>
+#include <QMediaDevices>
+#include <map>
 
 #include "platform/files.h"
+#include "platform/wav_file.h"
 
 namespace platform {
 namespace {
+
+// Audio servers start a stream only once its buffer holds enough, so a click
+// shorter than that would sit unheard. Every sound is followed by this much
+// silence, which carries it through.
+constexpr qint64 kSilenceAfterMicroseconds = 250000;
+
 std::function<void(const std::string&)>& observer() {
     static std::function<void(const std::string&)> o;
     return o;
 }
 
-QSoundEffect* effect() {
-    static QSoundEffect* e = new QSoundEffect();  // lives for the whole run
-    return e;
+// Each file is read once, with its trailing silence.
+const PcmSound& soundOf(const QString& file) {
+    static std::map<QString, PcmSound> sounds;
+    auto it = sounds.find(file);
+    if (it != sounds.end()) return it->second;
+    QFile f(file);
+    PcmSound sound = f.open(QIODevice::ReadOnly) ? parseWav(f.readAll()) : PcmSound{};
+    if (sound.playable()) {
+        const char silence = sound.format.sampleFormat() == QAudioFormat::UInt8 ? '\x80' : '\0';
+        sound.samples.append(
+            QByteArray(sound.format.bytesForDuration(kSilenceAfterMicroseconds), silence));
+    }
+    return sounds.emplace(file, std::move(sound)).first->second;
 }
+
+// The sound playing now, if any: a new one replaces it.
+QAudioSink*& playing() {
+    static QAudioSink* sink = nullptr;
+    return sink;
+}
+
+void stopPlaying() {
+    if (QAudioSink* sink = playing()) {
+        playing() = nullptr;
+        sink->stop();
+        sink->deleteLater();
+    }
+}
+
 }  // namespace
 
 void setSoundObserver(std::function<void(const std::string&)> o) {
@@ -27,10 +61,22 @@ void playSound(const std::string& relativePath) {
     if (observer()) observer()(relativePath);
     const auto file = findGameFile(relativePath);
     if (!file) return;
-    QSoundEffect* e = effect();
-    e->stop();
-    e->setSource(QUrl::fromLocalFile(QFileInfo(*file).absoluteFilePath()));
-    e->play();  // starts once loaded; never waited on
+    const PcmSound& sound = soundOf(*file);
+    if (!sound.playable()) return;
+    stopPlaying();
+
+    auto* sink = new QAudioSink(QMediaDevices::defaultAudioOutput(), sound.format);
+    auto* source = new QBuffer(sink);
+    source->setData(sound.samples);
+    source->open(QIODevice::ReadOnly);
+    // Played out (or failed): the sink goes; nothing ever waits for it.
+    QObject::connect(sink, &QAudioSink::stateChanged, sink, [sink](QAudio::State state) {
+        if (state == QAudio::ActiveState || playing() != sink) return;
+        playing() = nullptr;
+        sink->deleteLater();
+    });
+    playing() = sink;
+    sink->start(source);
 }
 
 }  // namespace platform

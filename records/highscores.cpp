@@ -100,8 +100,8 @@ void Highscores::buildLayout() {
     setClientSize(kClientWidth, kClientHeight);
     setBackColor(red());
 
-    Label2 = makeLabel(this, textLook(yellow(), 20.25, Qt::AlignHCenter), kTitles[0], 0, 120, 15240,
-                       600);
+    Label2 = makeLabel(client(), textLook(yellow(), 20.25, Qt::AlignHCenter), kTitles[0], 0, 120,
+                       15240, 600);
 
     LabelLook button = textLook(yellow(), 18, Qt::AlignHCenter);
     button.transparent = false;
@@ -110,13 +110,13 @@ void Highscores::buildLayout() {
     Label3.wire = [this](int index, Label& label) {
         label.on.click = [this, index] { Label3_Click(index); };
     };
-    Label3.add(0, makeLabel(this, button, "Continue", 12960, 120, 1935, 495));
+    Label3.add(0, makeLabel(client(), button, "Continue", 12960, 120, 1935, 495));
 
     const LabelLook heading = textLook(yellow(), 12, Qt::AlignHCenter);
     // Names and times are coloured yellow by the start-up, not by the design.
     const LabelLook entry = textLook(black(), 12, Qt::AlignLeft);
     for (int j = 0; j < kLevels; ++j) {
-        auto* frame = new platform::Frame(this);
+        auto* frame = new platform::Frame(client());
         frame->setBounds(kFrameLefts[j], kFrameTop, kFrameWidth, kFrameHeight);
         frame->setBackColor(red());
         frame->setFrameStyle(QFrame::Box | QFrame::Plain);
@@ -144,7 +144,7 @@ void Highscores::buildLayout() {
         Text1.add(j, box);
     }
 
-    Label1 = makeLabel(this, textLook(yellow(), 20.25, Qt::AlignHCenter),
+    Label1 = makeLabel(client(), textLook(yellow(), 20.25, Qt::AlignHCenter),
                        "Type your name in the box", 0, 3360, 15240, 600);
     Label1->hide();
 }
@@ -202,6 +202,11 @@ void Highscores::Label3_Click(int index) {
     // The last keys may have come after the latest copy.
     if (nameEntryOpen()) copyTypedName();
     platform::screens::unload(kName);
+}
+
+// Closing the window through the desktop keeps the typed name, as "Continue" does.
+void Highscores::Form_QueryUnload() {
+    Label3_Click(0);
 }
 
 void Highscores::Timer1_Timer() {

@@ -15,6 +15,7 @@ class Highscores : public platform::Form {
     static constexpr const char* kName = "highscores";
     Highscores();
     void Form_Load() override;
+    void Form_QueryUnload() override;
 
     platform::ControlArray<platform::Frame> Frame1{"Frame1"};  // 0..2, one per level
     platform::ControlArray<platform::Label> Label6{"Label6"};  // level headings

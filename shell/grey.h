@@ -9,6 +9,9 @@ class Grey : public platform::Form {
     static constexpr const char* kName = "Grey";
     Grey() : Form(kName, platform::FormKind::Backdrop) {}
     void Form_Load() override;
+    // The backdrop is no screen the player works with: a desktop's request
+    // to close it is ignored, so it never ends a game in progress.
+    void Form_QueryUnload() override {}
 };
 
 }  // namespace shell

@@ -30,6 +30,8 @@ const RulesPage& rulesPage(int page) {
 
 Morvelrules::Morvelrules() : Form(kName, platform::FormKind::FullSize) {
     buildLayout();
+    // It covers the options screen, which stays loaded beneath it.
+    keepAbove([] { return platform::screens::loaded("Startplay2"); });
     Option1.forEach([this](int k, platform::OptionButton& option) {
         option.onSelect = [this, k] { showPage(k); };
     });

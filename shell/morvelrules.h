@@ -13,6 +13,8 @@ class Morvelrules : public platform::Form {
     static constexpr const char* kName = "Morvelrules";
     Morvelrules();
     void Form_Load() override;
+    // Closed through the desktop: as its "Exit".
+    void Form_QueryUnload() override { Label3_Click(); }
 
     platform::ControlArray<platform::OptionButton> Option1{"Option1"};  // pages 0..2
     platform::ControlArray<platform::PictureBox> Image1{"Image1"};      // 0: title picture

@@ -98,8 +98,7 @@ void Startplay2::wireEvents() {
 }
 
 void Startplay2::Form_Load() {
-    setTop(platform::screenHeightTwips() / 2 - Height() / 2);
-    setLeft(platform::screenWidthTwips() / 2 - Width() / 2);
+    centreOnScreen();
     Image1(0).loadPicture("Images\\pimbalo3.jpg");
     Image2->loadPicture("Images\\logo2.jpg");
     // On a screen of 1024 pixels or less the game's windows cover the desktop

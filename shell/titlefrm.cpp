@@ -2,7 +2,6 @@
 
 #include <QImageReader>
 
-#include "platform/desktop.h"
 #include "platform/files.h"
 #include "records/inf_files.h"
 #include "shell/common.h"
@@ -50,8 +49,7 @@ void Titlefrm::Form_Load() {
 }
 
 bool Titlefrm::loadEverything() {
-    setTop(platform::screenHeightTwips() / 2 - Height() / 2);
-    setLeft(platform::screenWidthTwips() / 2 - Width() / 2);
+    centreOnScreen();
     if (!loadPictures()) return false;
 
     // Options read before a failure keep their new values, the others stay.

@@ -15,6 +15,8 @@ game_exe=$1
 game_dir=$2
 out=$3
 
+# A real desktop (window manager, audio server) when asked for.
+source "$(dirname "$0")/desktop.sh"
 for tool in Xvfb xdotool import cmp; do
     if ! command -v "$tool" >/dev/null; then
         echo "SKIP: $tool is not installed"
@@ -100,6 +102,7 @@ highscore_text 1 9000 10 Slowpoke 5 50 14 Max >"$work/highscore.inf"
 
 export XDG_RUNTIME_DIR="$work/runtime"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
+desktop_start
 (cd "$work" && exec env QT_QPA_PLATFORM=xcb "$game_exe") >"$out/game.log" 2>&1 &
 game_pid=$!
 
@@ -173,6 +176,7 @@ drag() {
 
 # --- the game ------------------------------------------------------------------
 title=$(wait_screen Titlefrm)
+desktop_on_title
 shot title
 click_control "$title" 1560 7080 1575 600  # "OK"
 
@@ -180,15 +184,18 @@ options=$(wait_screen Startplay2)
 wait_screen Grey >/dev/null
 wait_gone Titlefrm
 shot options
+desktop_on_options
 click_control "$options" 360 5100 1575 375 indicator  # "Timers On"
 click_control "$options" 3900 4200 2295 555           # "The Rules"
 
 rules=$(wait_screen Morvelrules)
+desktop_on_rules
 shot rules-4x4
 click_control "$rules" 360 1320 2295 495 indicator  # "6x6 Board"
 shot rules-6x6
 click_control "$rules" 13560 10920 1695 495  # "Exit"
 wait_gone Morvelrules
+desktop_after_rules
 
 shot options-timers-on
 click_control "$options" 1440 6360 975 855  # level "1"
@@ -196,6 +203,7 @@ started=$SECONDS
 board=$(wait_screen jigsaw)
 wait_gone Startplay2
 shot board
+desktop_on_board
 mapfile -t moves < <(state | awk '$1 == "move" { print $2, $3, $4, $5 }')
 ((${#moves[@]} > 0)) || fail "the board reported no moves"
 if [[ ${E2E_PLAY:-drag} != drag ]]; then  # click or keys: no drags at all
@@ -212,6 +220,7 @@ done
 # The check runs a second after the last drop; the time qualifies.
 scores=$(wait_screen highscores 15)
 shot verdict
+desktop_on_name_entry
 box=$(state | awk '$1 == "textbox" { print $2, $3 }')
 [[ -n $box ]] || fail "no name box has the focus"
 xdotool mousemove --sync ${box} click 1
@@ -224,6 +233,7 @@ solved_within=$((SECONDS - started + 1))
 click_control "$scores" 12960 120 1935 495  # "Continue"
 wait_gone highscores
 shot board-after
+desktop_after_name_entry
 
 click_control "$board" 13740 10680 1245 555  # the board's "Exit"
 options=$(wait_screen Startplay2)
@@ -242,6 +252,8 @@ done
 kill -0 "$game_pid" 2>/dev/null && fail "the game did not end on the title screen's Exit"
 wait "$game_pid" || fail "the game ended with status $?"
 game_pid=""
+
+desktop_finish
 
 # --- what the game wrote -------------------------------------------------------
 expected=$(mktemp)

@@ -4,8 +4,11 @@
 // its puzzle. Screen coordinates are global pixels, as xdotool uses them.
 //
 //   screen <name> <x> <y>         client-area origin of a shown screen
-//   move <fx> <fy> <tx> <ty>      piece centre to its solution cell's centre
+//   window <name> <id>            its X window, as xwininfo and wmctrl take it
+//   move <fx> <fy> <tx> <ty> <s>  piece centre to its solution cell's centre;
+//                                 s is the piece's picture (1 to N)
 //   textbox <x> <y>               centre of the text box holding the focus
+//   platform <name>               the Qt platform the game runs on
 //
 // and, for playing a board without dragging:
 //
@@ -13,7 +16,12 @@
 //   place <piece> <cell>          a piece (its tray slot) and the cell it solves
 //   ring <zone> <index> <shown>   where the keyboard's ring stands (0 tray, 1 grid, 2 commands)
 //   picked <piece>                the picked piece, -1 for none
+//
+// Every sound the game plays is appended to "e2e_sounds.txt" as
+// "<file> <milliseconds since the epoch>", so that a recording of the audio
+// server can be matched with the events that played it.
 #include <QApplication>
+#include <QDateTime>
 #include <QFile>
 #include <QLineEdit>
 #include <QTimer>
@@ -23,6 +31,7 @@
 
 #include "board/board_screen.h"
 #include "platform/form.h"
+#include "platform/sound.h"
 
 namespace {
 
@@ -44,7 +53,8 @@ void writeMoves(std::ostream& out, board::Board& board) {
             const int piece = (game.solution[x][y] - 1) * n + y;
             const QPoint from = centreOf(board.Image2(piece));
             const QPoint to = centreOf(board.Image1(x + n * y));
-            out << "move " << from.x() << ' ' << from.y() << ' ' << to.x() << ' ' << to.y() << '\n';
+            out << "move " << from.x() << ' ' << from.y() << ' ' << to.x() << ' ' << to.y() << ' '
+                << game.solution[x][y] << '\n';
         }
     }
 }
@@ -72,8 +82,9 @@ std::string describeScreens() {
     for (const char* name : kScreens) {
         platform::Form* form = platform::screens::loaded(name);
         if (!form || !form->isVisible()) continue;
-        const QPoint origin = form->mapToGlobal(QPoint(0, 0));
+        const QPoint origin = form->client()->mapToGlobal(QPoint(0, 0));
         out << "screen " << name << ' ' << origin.x() << ' ' << origin.y() << '\n';
+        out << "window " << name << ' ' << form->winId() << '\n';
         if (auto* board = dynamic_cast<board::Board*>(form)) writeMoves(out, *board);
         if (auto* board = dynamic_cast<board::Board*>(form)) writeHandPlay(out, *board);
     }
@@ -82,7 +93,16 @@ std::string describeScreens() {
         const QPoint centre = centreOf(*box);
         out << "textbox " << centre.x() << ' ' << centre.y() << '\n';
     }
+    out << "platform " << QGuiApplication::platformName().toStdString() << '\n';
     return out.str();
+}
+
+void logSound(const std::string& file) {
+    QFile log(QStringLiteral("e2e_sounds.txt"));
+    if (!log.open(QIODevice::Append)) return;
+    const std::string line =
+        file + ' ' + std::to_string(QDateTime::currentMSecsSinceEpoch()) + '\n';
+    log.write(line.data(), static_cast<qint64>(line.size()));
 }
 
 // Written beside and renamed over, so the script never reads half a file.
@@ -100,6 +120,7 @@ void installStateHook() {
     auto* timer = new QTimer(QCoreApplication::instance());
     QObject::connect(timer, &QTimer::timeout, [] { publish(describeScreens()); });
     timer->start(100);
+    platform::setSoundObserver(logSound);
 }
 
 }  // namespace

@@ -8,10 +8,12 @@
 
 #include "platform/control_array.h"
 #include "platform/controls.h"
+#include "platform/display_server.h"
 #include "platform/fatal.h"
 #include "platform/files.h"
 #include "platform/form.h"
 #include "platform/sound.h"
+#include "platform/wav_file.h"
 #include "shell/common.h"
 
 using namespace platform;
@@ -211,6 +213,94 @@ class PlatformTests : public QObject {
         QCOMPARE(probe.Height(), 11520.0f);
         QCOMPARE(probe.Left(), 1920.0f);
         QCOMPARE(probe.Top(), 1920.0f);
+    }
+
+    // The overlay's border makes it as wide as the full-size screen; window
+    // managers keep it above the full-size screen shown last, while shown.
+    void overlayCoversItsScreenAndStaysAboveIt() {
+        screens::registerScreen("Over", [] {
+            auto* over = new Form("Over", FormKind::Overlay);
+            over->setClientSize(15210, 4050);
+            return over;
+        });
+        screens::registerScreen("Board", [] { return new Form("Board", FormKind::FullSize); });
+        Form& board = screens::get("Board");
+        shell::placeform(board);
+        board.Show();
+        Form& over = screens::get("Over");
+        QCOMPARE(QSizeF(over.Width(), over.Height()), QSizeF(15360, 4200));
+        QCOMPARE(over.client()->geometry(), QRect(5, 5, 1014, 270));
+        over.Show();
+        QCOMPARE(over.owner(), &board);
+        QCOMPARE(over.windowHandle()->transientParent(), board.windowHandle());
+
+        screens::hide("Over");
+        screens::hide("Board");
+        over.Show();  // nothing shown to lie over
+        QCOMPARE(over.windowHandle()->transientParent(), nullptr);
+        screens::unload("Over");
+        screens::unload("Board");
+    }
+
+    void x11OnlyForAWaylandSessionWithAnXServer() {
+        struct Case {
+            SessionEnvironment env;
+            bool x11;
+        };
+        const Case cases[] = {
+            {{nullptr, "wayland-0", nullptr, ":0"}, true},
+            {{nullptr, nullptr, "wayland", ":0"}, true},
+            {{"", "wayland-0", "wayland", ":1"}, true},           // an empty choice is none
+            {{"wayland", "wayland-0", "wayland", ":0"}, false},   // the player's own choice
+            {{nullptr, "wayland-0", "wayland", nullptr}, false},  // no XWayland to run on
+            {{nullptr, "", "x11", ":0"}, false},                  // an X11 desktop
+            {{nullptr, nullptr, "waylandish", ":0"}, false},
+        };
+        for (const Case& c : cases) QCOMPARE(shouldUseX11(c.env), c.x11);
+
+        // These tests chose the offscreen platform; a Wayland session keeps it.
+        const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
+        qputenv("WAYLAND_DISPLAY", "wayland-test");
+        preferX11OnWayland();
+        qunsetenv("WAYLAND_DISPLAY");
+        QCOMPARE(qgetenv("QT_QPA_PLATFORM"), chosen);
+    }
+
+    void wavFilesGiveTheirSamples() {
+        auto chunk = [](const char* id, QByteArray body) {
+            QByteArray c(id, 4);
+            const quint32 n = quint32(body.size());
+            c.append(reinterpret_cast<const char*>(&n), 4).append(body);
+            if (n & 1) c.append('\0');
+            return c;
+        };
+        auto fmt = [](quint16 encoding, quint16 channels, quint16 bits) {
+            QByteArray f(16, '\0');
+            qToLittleEndian<quint16>(encoding, f.data());
+            qToLittleEndian<quint16>(channels, f.data() + 2);
+            qToLittleEndian<quint32>(22050, f.data() + 4);
+            qToLittleEndian<quint16>(bits, f.data() + 14);
+            return f;
+        };
+        auto wav = [](QByteArray chunks) { return "RIFF" + QByteArray(4, '\0') + "WAVE" + chunks; };
+
+        // A list chunk of odd length before the samples; a stray half frame.
+        PcmSound s = parseWav(
+            wav(chunk("fmt ", fmt(1, 2, 16)) + chunk("LIST", "abc") + chunk("data", "0123456789")));
+        QVERIFY(s.playable());
+        QCOMPARE(s.format.sampleFormat(), QAudioFormat::Int16);
+        QCOMPARE(s.format.channelCount(), 2);
+        QCOMPARE(s.format.sampleRate(), 22050);
+        QCOMPARE(s.samples, QByteArray("01234567"));
+
+        // A file cut short keeps the samples it has.
+        QByteArray cut = wav(chunk("fmt ", fmt(1, 1, 8)) + chunk("data", "abcdef"));
+        cut.chop(2);
+        QCOMPARE(parseWav(cut).samples, QByteArray("abcd"));
+
+        QVERIFY(!parseWav(wav(chunk("fmt ", fmt(2, 1, 4)) + chunk("data", "ab"))).playable());
+        QVERIFY(!parseWav(wav(chunk("data", "ab"))).playable());
+        QVERIFY(!parseWav("RIFF").playable());
     }
 
     void missingSoundsAreSilentButSeen() {

@@ -104,6 +104,25 @@ class TitleAndOptionsTests : public ScreenTest {
         QVERIFY(!isLoaded(Titlefrm::kName));
     }
 
+    // The desktop's close button: the title and options screens end the game
+    // (the options screen's way out ends at the title screen's "Exit"); the
+    // backdrop is not the player's to close, and nothing ends with it.
+    void closingThroughTheDesktop() {
+        platform::screens::show("Grey");
+        platform::screens::get("Grey").close();
+        QVERIFY(!ended && platform::screens::get("Grey").isVisible());
+
+        for (const char* name : {Titlefrm::kName, Startplay2::kName}) {
+            ended = false;
+            platform::screens::show(name);
+            platform::screens::get(name).close();
+            QVERIFY2(ended, name);
+            QVERIFY(!isLoaded(name) && !isLoaded("Grey"));
+            QVERIFY(!QFile::exists("lastgame.inf"));  // nothing is saved
+            platform::screens::show("Grey");
+        }
+    }
+
     void startUpReactsLikeThePlayerAndExitRereadsTheFile() {
         arriveFromTitle("1\r\n1\r\n1\r\n2\r\n");
         // Only "Timers On" leaves its designed state: one box click, then the

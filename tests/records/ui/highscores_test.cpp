@@ -51,8 +51,11 @@ class HighscoresTests : public QObject {
     void viewingEmptyTablesInTheBoardsColour() {
         records::openForViewing(kBlue);
         Highscores& s = screen();
-        // A 1280 x 1024 screen holds the board at top 1920; this lies 15 below.
-        QCOMPARE(QPointF(s.Left(), s.Top()), QPointF((19200 - 15210) / 2, 1935));
+        // A 1280 x 1024 screen holds the board at 1920, 1920; this lies 15
+        // below its top edge, its border flush with the board's sides.
+        QCOMPARE(QPointF(s.Left(), s.Top()), QPointF(1920, 1935));
+        QCOMPARE(QSizeF(s.Width(), s.Height()), QSizeF(15360, 4200));
+        QCOMPARE(s.Label3(0).mapTo(&s, QPoint(0, 0)), QPoint(5 + 12960 / 15, 5 + 120 / 15));
         QVERIFY(s.isVisible() && !s.Label1->Visible() && !s.Timer1.Enabled());
         QCOMPARE(s.BackColor(), kBlue);
         for (int j = 0; j < records::kLevels; ++j) {
@@ -126,6 +129,13 @@ class HighscoresTests : public QObject {
         records::openForViewing(kBlue);
         clickContinue();
         QCOMPARE(m().bestname[2][1][0], string("Dee"));
+
+        // Closed through the desktop, it is "Continue": the name is kept.
+        qualify(2, 1, "48");
+        QTest::keyClicks(&screen().Text1(1), "Eve");
+        screen().close();
+        QVERIFY(!platform::screens::isLoaded(Highscores::kName));
+        QCOMPARE(m().bestname[2][1][0], string("Eve"));
 
         // A record while the tables are on view: red again, the new time shown.
         records::openForViewing(kBlue);
