@@ -1,0 +1,30 @@
+#!/bin/bash
+# Runs a test program as an ordinary player rather than root, who may write
+# any file: permission checks only mean something for an ordinary user.
+#
+#   as_player.sh <program> [arguments...]
+#
+# Run by root (as CI is), it makes the player account "pimbalo-player" when
+# there is none yet and runs the program as that user; run by anyone else, it
+# runs the program as it is.
+set -euo pipefail
+
+if [[ $(id -u) -ne 0 ]]; then
+    exec "$@"
+fi
+
+player=pimbalo-player
+if ! id -u "$player" >/dev/null 2>&1; then
+    # Another test run may make the same account at the same moment.
+    useradd --system --no-create-home --shell /usr/sbin/nologin "$player" 2>/dev/null ||
+        id -u "$player" >/dev/null 2>&1 || {
+        echo "SKIP: cannot make the player account $player"
+        exit 77
+    }
+fi
+if ! runuser -u "$player" -- test -x "$1"; then
+    echo "SKIP: $player cannot run $1 (a folder on its way is closed to other users)"
+    exit 77
+fi
+# The player's own temporary files, wherever TMPDIR pointed for root.
+exec runuser -u "$player" -- env TMPDIR=/tmp "$@"
