@@ -1,6 +1,8 @@
 #include "platform/sound.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
+#include <QPointer>
 #include <QSoundEffect>
 #include <QUrl>
 
@@ -13,8 +15,14 @@ std::function<void(const std::string&)>& observer() {
     return o;
 }
 
+// One player for the whole run, so a new sound cuts off the one still playing.
+// It belongs to the application, which ends it.
 QSoundEffect* effect() {
-    static QSoundEffect* e = new QSoundEffect();  // lives for the whole run
+    static QPointer<QSoundEffect> e;
+    if (!e) {
+        e = new QSoundEffect(QCoreApplication::instance());
+        e->setObjectName(QStringLiteral("pimbalo-sound"));
+    }
     return e;
 }
 }  // namespace
@@ -25,12 +33,12 @@ void setSoundObserver(std::function<void(const std::string&)> o) {
 
 void playSound(const std::string& relativePath) {
     if (observer()) observer()(relativePath);
-    const auto file = findGameFile(relativePath);
-    if (!file) return;
     QSoundEffect* e = effect();
     e->stop();
-    e->setSource(QUrl::fromLocalFile(QFileInfo(*file).absoluteFilePath()));
-    e->play();  // starts once loaded; never waited on
+    // A missing file is silence, which replaces a sound still playing too.
+    const auto file = findGameFile(relativePath);
+    e->setSource(file ? QUrl::fromLocalFile(QFileInfo(*file).absoluteFilePath()) : QUrl());
+    if (file) e->play();  // starts once loaded; never waited on
 }
 
 }  // namespace platform

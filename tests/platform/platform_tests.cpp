@@ -2,6 +2,7 @@
 // arrays, the screen model, value-change events and window placing.
 #include <QDir>
 #include <QFile>
+#include <QSoundEffect>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <stdexcept>
@@ -73,6 +74,27 @@ QByteArray cursorFile(int size, int hotX, int hotY) {
     put32(file, bmp.size());
     put32(file, 22);
     return file + bmp;
+}
+
+// A mono 16-bit WAV file of `samples` silent samples at 22050 Hz.
+QByteArray wavFile(int samples) {
+    QByteArray file;
+    auto put = [&](quint32 v, int bytes) {
+        for (int i = 0; i < bytes; ++i) file.append(char((v >> (8 * i)) & 0xFF));
+    };
+    file.append("RIFF");
+    put(36 + 2 * samples, 4);
+    file.append("WAVEfmt ");
+    put(16, 4);
+    put(1, 2);  // PCM
+    put(1, 2);  // mono
+    put(22050, 4);
+    put(44100, 4);
+    put(2, 2);
+    put(16, 2);
+    file.append("data");
+    put(2 * samples, 4);
+    return file + QByteArray(2 * samples, '\0');
 }
 
 }  // namespace
@@ -213,13 +235,21 @@ class PlatformTests : public QObject {
         QCOMPARE(probe.Top(), 1920.0f);
     }
 
+    // The player is handed the file, found whatever its letter case; a missing
+    // file hands it nothing, which silences a sound still playing too.
     void missingSoundsAreSilentButSeen() {
+        QDir().mkpath("wav");
+        writeFile("wav/Beep.wav", wavFile(2205));
         QStringList asked;
         setSoundObserver([&](const std::string& p) { asked << QString::fromStdString(p); });
+        playSound("wav\\BEEP.wav");
+        auto* player = qApp->findChild<QSoundEffect*>();
+        QVERIFY(player);
+        QCOMPARE(player->source(), QUrl::fromLocalFile(QDir::current().filePath("wav/Beep.wav")));
         playSound("wav\\nothere.wav");
-        playSound("wav\\nothere.wav");
+        QVERIFY(player->source().isEmpty() && !player->isPlaying());
         setSoundObserver(nullptr);
-        QCOMPARE(asked.size(), 2);
+        QCOMPARE(asked, QStringList({"wav\\BEEP.wav", "wav\\nothere.wav"}));
     }
 };
 
