@@ -108,8 +108,7 @@ void Form::Show() {
         if (over && over != windowHandle()) windowHandle()->setTransientParent(over);
     }
     show();
-    // The offscreen platform used by the tests has no stacking to change.
-    if (QGuiApplication::platformName() != QLatin1String("offscreen")) raise();
+    raise();
     if (!(windowFlags() & Qt::WindowDoesNotAcceptFocus)) activateWindow();
 }
 
@@ -168,10 +167,6 @@ bool isLoaded(const std::string& name) {
 
 void show(const std::string& name) {
     get(name).Show();
-}
-
-void hide(const std::string& name) {
-    if (Form* f = loaded(name)) f->hide();
 }
 
 void unload(const std::string& name) {
