@@ -1,9 +1,10 @@
 #include "platform/sound.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QFileInfo>
-#include <QPointer>
 #include <QSoundEffect>
+#include <QTimer>
 #include <QUrl>
 
 #include "platform/files.h"
@@ -15,17 +16,33 @@ std::function<void(const std::string&)>& observer() {
     return o;
 }
 
+QSoundEffect* effect();
+
+// Qt's sample loader loses what it holds for a sound still being loaded when
+// the program ends (the sanitizer build reports it as a leak), so the end of
+// the program waits for that sound, a second at most.
+void letTheLoadingSoundFinish() {
+    QSoundEffect* e = effect();
+    if (e->status() != QSoundEffect::Loading) return;
+    QEventLoop loading;
+    QObject::connect(e, &QSoundEffect::statusChanged, &loading, &QEventLoop::quit);
+    QTimer::singleShot(1000, &loading, &QEventLoop::quit);
+    loading.exec();
+}
+
 // One player for the whole run, so a new sound cuts off the one still playing.
-// It belongs to the application, which ends it.
 QSoundEffect* effect() {
-    static QPointer<QSoundEffect> e;
-    if (!e) {
-        e = new QSoundEffect(QCoreApplication::instance());
-        e->setObjectName(QStringLiteral("pimbalo-sound"));
-    }
+    static QSoundEffect* e = [] {
+        qAddPostRoutine(letTheLoadingSoundFinish);
+        return new QSoundEffect();
+    }();
     return e;
 }
 }  // namespace
+
+const QSoundEffect& soundPlayer() {
+    return *effect();
+}
 
 void setSoundObserver(std::function<void(const std::string&)> o) {
     observer() = std::move(o);

@@ -5,11 +5,16 @@
 #include <functional>
 #include <string>
 
+class QSoundEffect;
+
 namespace platform {
 
 void playSound(const std::string& relativePath);
 
 // Sees every sound the game asks for, played or not (tests listen here).
 void setSoundObserver(std::function<void(const std::string& path)> observer);
+
+// The one player every sound goes through, as the latest sound left it.
+const QSoundEffect& soundPlayer();
 
 }  // namespace platform
