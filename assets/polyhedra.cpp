@@ -189,23 +189,27 @@ Look lookOf(Polyhedron polyhedron) {
                     14,
                     -28,
                     10};
+        // The two compounds share their corners, so each gets a colour family
+        // of its own (the other solids are gold, blue, red and green) and a
+        // view of its own: the ten along a five-fold axis, a round rosette;
+        // the five along a three-fold axis, a three-cornered star.
         case Polyhedron::TenTetrahedra:
             return {compoundOfTenTetrahedra(),
-                    {QColor(235, 50, 50), QColor(255, 150, 20), QColor(250, 215, 30),
-                     QColor(150, 215, 40), QColor(40, 170, 70), QColor(30, 190, 210),
-                     QColor(50, 90, 230), QColor(100, 60, 190), QColor(190, 80, 225),
-                     QColor(240, 90, 170)},
-                    QColor(222, 222, 232),
-                    20,
-                    -22,
-                    4};
+                    {QColor(150, 85, 230), QColor(95, 45, 170), QColor(185, 140, 245),
+                     QColor(120, 60, 200), QColor(75, 35, 140), QColor(165, 110, 240),
+                     QColor(105, 55, 185), QColor(140, 80, 215), QColor(85, 40, 155),
+                     QColor(175, 125, 245)},
+                    QColor(230, 220, 252),
+                    6,
+                    26,
+                    0};
         case Polyhedron::FiveTetrahedra:
             return {compoundOfFiveTetrahedra(),
-                    {QColor(235, 50, 50), QColor(250, 205, 30), QColor(50, 110, 235),
-                     QColor(50, 185, 70), QColor(160, 70, 220)},
-                    QColor(235, 225, 250),
-                    26,
-                    -16,
+                    {QColor(255, 135, 205), QColor(225, 70, 160), QColor(255, 180, 225),
+                     QColor(245, 105, 185), QColor(205, 55, 145)},
+                    QColor(255, 225, 240),
+                    -45,
+                    35.26,
                     0};
         case Polyhedron::GreatDodecahedron:
             return {greatDodecahedron(), {QColor(40, 185, 90)}, QColor(215, 245, 215), 16, -26, 8};

@@ -39,7 +39,7 @@ void Board::describeControls() {
     Image1.forEach([this, n](int c, platform::PictureBox& cell) {
         auto name = [this, n, c] {
             QString text = QStringLiteral("Row %1, column %2: ").arg(c / n + 1).arg(c % n + 1);
-            for (int p = 0; p < cellcount; ++p) {
+            for (int p = 0; p < n * n; ++p) {
                 if (Image2(p).Left() != Image1(c).Left() || Image2(p).Top() != Image1(c).Top())
                     continue;
                 const auto& set = catalogue(layout_.boardsize).at(pictureset);

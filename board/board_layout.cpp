@@ -1,7 +1,6 @@
 #include "board/board_layout.h"
 
 #include <array>
-#include <stdexcept>
 
 namespace board {
 namespace {
@@ -183,13 +182,6 @@ Rect BoardLayout::cell(int x, int y) const {
 Rect BoardLayout::home(int piece) const {
     return {trayLeft + trayPitch * (piece % trayColumns),
             trayTop + trayPitch * (piece / trayColumns), side, side};
-}
-
-const LabelDesign& BoardLayout::label(LabelArray array, int index) const {
-    for (const LabelDesign& design : labels) {
-        if (design.array == array && design.index == index) return design;
-    }
-    throw std::out_of_range("no such label on " + screenName);
 }
 
 const BoardLayout& boardLayout(int boardsize) {

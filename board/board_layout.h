@@ -71,7 +71,6 @@ struct BoardLayout {
 
     Rect cell(int x, int y) const;
     Rect home(int piece) const;
-    const LabelDesign& label(LabelArray array, int index) const;
 };
 
 // By board size index.

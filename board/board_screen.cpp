@@ -194,7 +194,6 @@ void Board::Form_Load() {
         Image3(k).show();
     }
     for (int k = 1; k < pieces; ++k) Image5.load(k);
-    cellcount = pieces;
 
     seticons();
     setpicture();
@@ -353,11 +352,13 @@ void Board::playwav(const std::string& path) {
 
 // The table part is the records' ranking; a placed time opens the
 // fastest-times screen over the board with the name box on the new entry.
+// The time goes into this board's table; the screen shows the tables of the
+// chosen size, none when a hand-edited size lies outside 0..2.
 void Board::checkhighscore() {
     auto& m = shell::module1();
     if (records::rankTime(m, layout_.boardsize, m.level, Label2(1).Caption(), m.loadfailed,
                           m.newrank))
-        records::openForNameEntry();
+        records::openForNameEntry(m, m.boardsize, {layout_.boardsize, m.level, m.newrank});
 }
 
 }  // namespace board

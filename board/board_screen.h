@@ -68,7 +68,6 @@ class Board : public platform::Form, public engine::BoardView {
     platform::Timer Timer2;  // the delay before the answer check
 
     // Members of the board's game besides the engine's.
-    int cellcount = 0;
     int pictureset = 0;
     int iconson = 0;
 

@@ -30,7 +30,7 @@ void Board::Label3_Click(int index) {
             newPuzzle();
             break;
         case FastestTimes:
-            records::openForViewing(BackColor());
+            records::openForViewing(shell::module1(), shell::module1().boardsize, BackColor());
             break;
         case ShowSolution:
             showSolution();
@@ -52,7 +52,7 @@ void Board::exitBoard() {
                           {m.playsound, m.timerson, m.hidedesktop, m.boardsize}, m);
     } catch (...) {
     }
-    if (platform::screens::isRegistered("Startplay2")) platform::screens::show("Startplay2");
+    platform::screens::show("Startplay2");
     closeFastestTimes();
     platform::screens::unload(screenName());
     play("wav\\click.wav");

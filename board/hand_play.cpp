@@ -80,7 +80,7 @@ void Board::mouseReleaseEvent(QMouseEvent* e) {
     if (e->button() != Qt::LeftButton) return;
     const float x = platform::toTwips(e->position().x());
     const float y = platform::toTwips(e->position().y());
-    for (int c = 0; c < cellcount; ++c) {
+    for (int c = 0; c < layout_.n * layout_.n; ++c) {
         const auto& cell = Image1(c);
         if (x >= cell.Left() && x < cell.Left() + cell.Width() && y >= cell.Top() &&
             y < cell.Top() + cell.Height()) {
@@ -88,7 +88,7 @@ void Board::mouseReleaseEvent(QMouseEvent* e) {
             return;
         }
     }
-    const int rows = (cellcount + layout_.trayColumns - 1) / layout_.trayColumns;
+    const int rows = (layout_.n * layout_.n + layout_.trayColumns - 1) / layout_.trayColumns;
     if (x >= layout_.trayLeft && x < layout_.trayLeft + layout_.trayColumns * layout_.trayPitch &&
         y >= layout_.trayTop && y < layout_.trayTop + rows * layout_.trayPitch)
         chooseSlot(Picking::kNone);

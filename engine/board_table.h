@@ -76,8 +76,5 @@ inline int pieceNumber(int n, int picture, int copy) {
 inline int pictureOfPiece(int n, int piece) {
     return piece / n + 1;
 }
-inline int copyOfPiece(int n, int piece) {
-    return piece % n;
-}
 
 }  // namespace engine

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <stdexcept>
 
 namespace engine {
 namespace {
@@ -56,11 +55,6 @@ void ClockRandom::seedFromClock() {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
     mix(static_cast<std::uint64_t>(
         std::chrono::duration_cast<std::chrono::nanoseconds>(now).count()));
-}
-
-double ScriptedRandom::next() {
-    if (pos_ >= draws_.size()) throw std::out_of_range("ScriptedRandom: no draws left");
-    return draws_[pos_++];
 }
 
 int drawBelow(RandomSource& rnd, int n) {

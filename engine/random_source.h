@@ -1,9 +1,7 @@
 #pragma once
 // Where the engine gets its random numbers. The board screens use ClockRandom;
-// tests script exact draws with ScriptedRandom so every game can be replayed.
+// any other source (a scripted one in the tests, say) can stand in for it.
 #include <cstdint>
-#include <utility>
-#include <vector>
 
 namespace engine {
 
@@ -29,22 +27,6 @@ class ClockRandom : public RandomSource {
   private:
     std::uint64_t nextRaw();
     std::uint64_t s_[4];
-};
-
-// Plays back a fixed list of draws; runs out loudly (throws std::out_of_range)
-// so a test notices when the engine draws more than expected.
-class ScriptedRandom : public RandomSource {
-  public:
-    explicit ScriptedRandom(std::vector<double> draws) : draws_(std::move(draws)) {}
-    double next() override;
-    void seedFromClock() override { ++seedings_; }
-    std::size_t drawn() const { return pos_; }
-    int seedings() const { return seedings_; }
-
-  private:
-    std::vector<double> draws_;
-    std::size_t pos_ = 0;
-    int seedings_ = 0;
 };
 
 // Int(Rnd * n): a whole number 0..n-1 from one draw.

@@ -64,7 +64,9 @@ PictureBox* PictureBox::cloneHidden() const {
     copy->picture_ = picture_;
     copy->framed_ = framed_;
     copy->frameColor_ = frameColor_;
-    copy->setCursor(cursor());
+    // A pointer of element 0's own goes with the copy; otherwise the copy, like
+    // element 0, shows the window's pointer whenever it changes.
+    if (testAttribute(Qt::WA_SetCursor)) copy->setCursor(cursor());
     return copy;
 }
 

@@ -35,6 +35,27 @@ QHash<QString, QPixmap>& pictureCache() {
     return cache;
 }
 
+// The picture of a game path, or why there is none.
+std::optional<QPixmap> readPicture(const std::string& relativePath, QString& whyNot) {
+    const auto file = findGameFile(relativePath);
+    if (!file) {
+        whyNot = QStringLiteral("file not found");
+        return std::nullopt;
+    }
+    const QString key = QFileInfo(*file).absoluteFilePath();
+    auto cached = pictureCache().constFind(key);
+    if (cached != pictureCache().constEnd()) return *cached;
+    QImageReader reader(*file);
+    const QImage image = reader.read();
+    if (image.isNull()) {
+        whyNot = reader.errorString();
+        return std::nullopt;
+    }
+    QPixmap pixmap = QPixmap::fromImage(image);
+    pictureCache().insert(key, pixmap);
+    return pixmap;
+}
+
 }  // namespace
 
 void setDataFolder(const QString& folder) {
@@ -60,18 +81,15 @@ std::optional<QString> findFileBelow(const QString& folder, const std::string& r
 }
 
 QPixmap loadPicture(const std::string& relativePath) {
-    const auto file = findGameFile(relativePath);
-    const QString shown = QString::fromStdString(relativePath);
-    if (!file) fatalFileError(shown, QStringLiteral("file not found"));
-    const QString key = QFileInfo(*file).absoluteFilePath();
-    auto cached = pictureCache().constFind(key);
-    if (cached != pictureCache().constEnd()) return *cached;
-    QImageReader reader(*file);
-    const QImage image = reader.read();
-    if (image.isNull()) fatalFileError(shown, reader.errorString());
-    QPixmap pixmap = QPixmap::fromImage(image);
-    pictureCache().insert(key, pixmap);
-    return pixmap;
+    QString whyNot;
+    auto picture = readPicture(relativePath, whyNot);
+    if (!picture) fatalFileError(QString::fromStdString(relativePath), whyNot);
+    return *picture;
+}
+
+std::optional<QPixmap> tryLoadPicture(const std::string& relativePath) {
+    QString whyNot;
+    return readPicture(relativePath, whyNot);
 }
 
 QCursor loadCursor(const std::string& relativePath) {

@@ -31,6 +31,10 @@ std::optional<QString> findFileBelow(const QString& folder, const std::string& r
 // after reporting it (fatalFileError). Pictures are cached by file.
 QPixmap loadPicture(const std::string& relativePath);
 
+// The same for a picture the caller can do without: nullopt when the file is
+// missing or cannot be decoded, and nothing is reported.
+std::optional<QPixmap> tryLoadPicture(const std::string& relativePath);
+
 // A pointer from a Windows cursor file (hot spot read from the file).
 // Missing or unreadable files end the program like pictures.
 QCursor loadCursor(const std::string& relativePath);

@@ -180,8 +180,7 @@ void Form::Show() {
     if (!isVisible()) tieToOwner();
     if (kind_ == FormKind::FullSize) lastFullSizeShown() = name_;
     show();
-    // The offscreen platform used by the tests has no stacking to change.
-    if (QGuiApplication::platformName() != QLatin1String("offscreen")) raise();
+    raise();
     if (!(windowFlags() & Qt::WindowDoesNotAcceptFocus)) activateWindow();
 }
 
@@ -260,10 +259,6 @@ bool isLoaded(const std::string& name) {
 
 void show(const std::string& name) {
     get(name).Show();
-}
-
-void hide(const std::string& name) {
-    if (Form* f = loaded(name)) f->hide();
 }
 
 void unload(const std::string& name) {

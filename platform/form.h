@@ -110,7 +110,6 @@ Form* loaded(const std::string& name);
 bool isLoaded(const std::string& name);
 
 void show(const std::string& name);
-void hide(const std::string& name);
 void unload(const std::string& name);
 // Ends the game: every screen goes at once, with no further handling.
 void endProgram();

@@ -3,6 +3,7 @@
 #include <QAudioSink>
 #include <QBuffer>
 #include <QFile>
+#include <QFileInfo>
 #include <QMediaDevices>
 #include <map>
 
@@ -43,6 +44,13 @@ QAudioSink*& playing() {
     return sink;
 }
 
+// The file handed to the player by the latest sound, empty after one that
+// found nothing to play.
+QString& latestFile() {
+    static QString file;
+    return file;
+}
+
 void stopPlaying() {
     if (QAudioSink* sink = playing()) {
         playing() = nullptr;
@@ -53,17 +61,25 @@ void stopPlaying() {
 
 }  // namespace
 
+QString latestSoundFile() {
+    return latestFile();
+}
+
 void setSoundObserver(std::function<void(const std::string&)> o) {
     observer() = std::move(o);
 }
 
 void playSound(const std::string& relativePath) {
     if (observer()) observer()(relativePath);
+    // A new sound replaces the one playing, even when it is missing or cannot
+    // be played: the player then falls silent.
+    stopPlaying();
+    latestFile().clear();
     const auto file = findGameFile(relativePath);
     if (!file) return;
     const PcmSound& sound = soundOf(*file);
     if (!sound.playable()) return;
-    stopPlaying();
+    latestFile() = QFileInfo(*file).absoluteFilePath();
 
     auto* sink = new QAudioSink(QMediaDevices::defaultAudioOutput(), sound.format);
     auto* source = new QBuffer(sink);

@@ -2,6 +2,7 @@
 // Sound effects: a WAV file by its relative game path, played in the
 // background. A new sound replaces one still playing. A missing or unplayable
 // file, or a machine without audio, is silent and never holds up the game.
+#include <QString>
 #include <functional>
 #include <string>
 
@@ -11,5 +12,9 @@ void playSound(const std::string& relativePath);
 
 // Sees every sound the game asks for, played or not (tests listen here).
 void setSoundObserver(std::function<void(const std::string& path)> observer);
+
+// The file the latest sound handed to the player (an absolute path), empty
+// when that sound found nothing to play and so only silenced the one before.
+QString latestSoundFile();
 
 }  // namespace platform

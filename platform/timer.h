@@ -11,8 +11,6 @@ class Timer {
     Timer(QObject* owner, int intervalMs);
     void setEnabled(bool on);
     bool Enabled() const { return timer_->isActive(); }
-    void setInterval(int ms) { timer_->setInterval(ms); }
-    int Interval() const { return timer_->interval(); }
     // Runs the handler once, as a tick would (tests use this to skip waiting).
     void tick() {
         if (onTimer) onTimer();

@@ -5,7 +5,6 @@
 #include <string>
 
 #include "platform/desktop.h"
-#include "shell/module1.h"
 
 namespace records {
 
@@ -107,9 +106,7 @@ void Highscores::buildLayout() {
     button.transparent = false;
     button.backColor = black();
     button.framed = true;
-    Label3.wire = [this](int index, Label& label) {
-        label.on.click = [this, index] { Label3_Click(index); };
-    };
+    Label3.wire = [this](int, Label& label) { label.on.click = [this] { Label3_Click(); }; };
     Label3.add(0, makeLabel(client(), button, "Continue", 12960, 120, 1935, 495));
 
     const LabelLook heading = textLook(yellow(), 12, Qt::AlignHCenter);
@@ -149,9 +146,14 @@ void Highscores::buildLayout() {
     Label1->hide();
 }
 
+// The start-up only places the window: what it shows comes with the opening
+// (fill), from the tables the board passes in.
 void Highscores::Form_Load() {
     skipOnError([this] { placeWindow(); });
-    skipOnError([this] { fillTables(); });
+}
+
+void Highscores::fill(const FastestTimes& tables, int boardsize) {
+    skipOnError([&] { fillTables(tables, boardsize); });
     skipOnError([this] { colourRows(); });
 }
 
@@ -162,15 +164,13 @@ void Highscores::placeWindow() {
 
 // Only a known board size is filled; any other (a hand-edited lastgame.inf)
 // leaves the design texts.
-void Highscores::fillTables() {
-    const shell::Module1& m = shell::module1();
-    const int s = m.boardsize;
+void Highscores::fillTables(const FastestTimes& tables, int s) {
     if (!inRange(s, kSizes)) return;
     Label2->setCaption(kTitles[s]);
     for (int r = 0; r < kRanks; ++r) {
         for (int j = 0; j < kLevels; ++j) {
-            Label8(row(j, r)).setCaption(m.bestname[s][j][r]);
-            Label9(row(j, r)).setCaption(std::to_string(m.besttime[s][j][r]));
+            Label8(row(j, r)).setCaption(tables.bestname[s][j][r]);
+            Label9(row(j, r)).setCaption(std::to_string(tables.besttime[s][j][r]));
         }
     }
 }
@@ -186,27 +186,29 @@ void Highscores::colourRows() {
 }
 
 bool Highscores::nameEntryOpen() const {
-    const int level = shell::module1().level;
-    return inRange(level, kLevels) && Text1(level).Visible();
+    return namedTables_ && Text1(entry_.level).Visible();
+}
+
+void Highscores::takeNameFor(FastestTimes& tables, const NewEntry& entry) {
+    namedTables_ = &tables;
+    entry_ = entry;
 }
 
 void Highscores::copyTypedName() {
-    shell::Module1& m = shell::module1();
-    if (!inRange(m.boardsize, kSizes) || !inRange(m.level, kLevels) || !inRange(m.newrank, kRanks))
-        return;
-    m.bestname[m.boardsize][m.level][m.newrank] = Text1(m.level).Text();
+    if (!nameEntryOpen()) return;
+    namedTables_->bestname[entry_.boardsize][entry_.level][entry_.rank] =
+        Text1(entry_.level).Text();
 }
 
-void Highscores::Label3_Click(int index) {
-    if (index != 0) return;
+void Highscores::Label3_Click() {
     // The last keys may have come after the latest copy.
-    if (nameEntryOpen()) copyTypedName();
+    copyTypedName();
     platform::screens::unload(kName);
 }
 
 // Closing the window through the desktop keeps the typed name, as "Continue" does.
 void Highscores::Form_QueryUnload() {
-    Label3_Click(0);
+    Label3_Click();
 }
 
 void Highscores::Timer1_Timer() {
@@ -222,16 +224,21 @@ void registerScreens() {
     platform::screens::registerScreen(Highscores::kName, [] { return new Highscores; });
 }
 
-void openForNameEntry() {
-    const shell::Module1& m = shell::module1();
-    if (!inRange(m.level, kLevels) || !inRange(m.newrank, kRanks)) return;
+void openForNameEntry(FastestTimes& tables, int boardsize, const NewEntry& entry) {
+    if (!inRange(entry.boardsize, kSizes) || !inRange(entry.level, kLevels) ||
+        !inRange(entry.rank, kRanks))
+        return;
 
-    // A screen still open for viewing was filled before this time was ranked
-    // and wears the board's colour: start it afresh.
-    platform::screens::unload(Highscores::kName);
+    // A screen still open for viewing wears the board's colour: start it
+    // afresh. One taking a name keeps its box, so a second record in a row
+    // (a picture-set click leaves the screen open) keeps what was typed.
+    const auto* open = static_cast<Highscores*>(platform::screens::loaded(Highscores::kName));
+    if (open && !open->nameEntryOpen()) platform::screens::unload(Highscores::kName);
     Highscores& screen = highscores();
-    platform::TextBox& box = screen.Text1(m.level);
-    box.setTop(screen.Label8(row(m.level, m.newrank)).Top() - kNameBoxAboveRow);
+    screen.fill(tables, boardsize);
+    screen.takeNameFor(tables, entry);
+    platform::TextBox& box = screen.Text1(entry.level);
+    box.setTop(screen.Label8(row(entry.level, entry.rank)).Top() - kNameBoxAboveRow);
     box.show();
     screen.Label1->show();
     screen.Timer1.setEnabled(true);
@@ -240,8 +247,9 @@ void openForNameEntry() {
     box.setFocus();
 }
 
-void openForViewing(const QColor& boardColour) {
+void openForViewing(const FastestTimes& tables, int boardsize, const QColor& boardColour) {
     Highscores& screen = highscores();
+    screen.fill(tables, boardsize);
     for (int j = 0; j < kLevels; ++j) screen.Frame1(j).setBackColor(boardColour);
     screen.setBackColor(boardColour);
     screen.Show();

@@ -7,8 +7,17 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/timer.h"
+#include "records/fastest_times.h"
 
 namespace records {
+
+// The entry a newly qualified time went to: the table of a board size and
+// level, at a rank index.
+struct NewEntry {
+    int boardsize;
+    int level;
+    int rank;
+};
 
 class Highscores : public platform::Form {
   public:
@@ -27,17 +36,26 @@ class Highscores : public platform::Form {
     platform::Label* Label2 = nullptr;                         // the title
     platform::Timer Timer1;                                    // copies the typed name
 
-    // The screen was opened for a new entry: the box of the current level shows.
+    // The screen was opened for a new entry: the name box shows.
     bool nameEntryOpen() const;
+
+    // Fills the names and times from the three tables of `boardsize`; any
+    // other size (a hand-edited lastgame.inf) leaves the design texts.
+    void fill(const FastestTimes& tables, int boardsize);
+    // From now on the typed name goes into this entry of `tables`.
+    void takeNameFor(FastestTimes& tables, const NewEntry& entry);
 
   private:
     void buildLayout();
     void placeWindow();
-    void fillTables();
+    void fillTables(const FastestTimes& tables, int boardsize);
     void colourRows();
     void copyTypedName();
-    void Label3_Click(int index);
+    void Label3_Click();
     void Timer1_Timer();
+
+    FastestTimes* namedTables_ = nullptr;  // where the typed name goes, when open for one
+    NewEntry entry_{};
 };
 
 // The screen, loaded (its start-up run) if it was not.
@@ -46,13 +64,15 @@ Highscores& highscores();
 // Makes the screen known to the screen model (the game and tests call this).
 void registerScreens();
 
-// After a qualifying time (the screen part of checkhighscore): the name box
-// of `level` over the new entry's row, the prompt, the name copy, shown.
-// A screen still open for viewing is loaded afresh first, so the new time
-// shows and the window is red again.
-void openForNameEntry();
+// After a qualifying time (the screen part of checkhighscore): the tables of
+// `boardsize`, the name box of the entry's level over its row, the prompt and
+// the name copy, shown. A screen still open for viewing is loaded afresh
+// first, so the window is red again; one already taking a name is kept, with
+// the name typed so far, and shows the tables as they now stand.
+void openForNameEntry(FastestTimes& tables, int boardsize, const NewEntry& entry);
 
-// A board's "Fastest Times": the frames and window in the board's colour, shown.
-void openForViewing(const QColor& boardColour);
+// A board's "Fastest Times": the tables of `boardsize`, the frames and window
+// in the board's colour, shown.
+void openForViewing(const FastestTimes& tables, int boardsize, const QColor& boardColour);
 
 }  // namespace records

@@ -1,6 +1,7 @@
 #include "records/inf_files.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -8,6 +9,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 
 #include "records/latin1.h"
 
@@ -73,12 +75,30 @@ void syncFolderOf(const std::string& path) {
     ::close(fd);
 }
 
+// The rename below would replace even a file the player may not write, as
+// long as the folder is writable. So an existing file is replaced only when it
+// could have been opened for output in place; `mode` then holds its
+// permissions, for the new file to keep. No file yet is fine too.
+bool mayReplace(const std::string& path, std::optional<mode_t>& mode) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) return errno == ENOENT;
+    // Non-blocking, so that a pipe in its place fails instead of waiting.
+    const int fd = ::open(path.c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (fd < 0) return false;
+    ::close(fd);
+    mode = status.st_mode & 07777;
+    return true;
+}
+
 // Writes the whole file next to path and renames it over path, so readers see
 // either the old file or the new one, never a part.
 bool replaceFile(const std::string& path, const std::string& bytes) {
+    std::optional<mode_t> mode;
+    if (!mayReplace(path, mode)) return false;
     const std::string temporary = path + ".tmp";
     const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     if (fd < 0) return false;
+    if (mode) ::fchmod(fd, *mode);  // best effort: the contents matter more
     const bool written = writeAll(fd, bytes) && ::fsync(fd) == 0;
     const bool closed = ::close(fd) == 0;
     if (!written || !closed || std::rename(temporary.c_str(), path.c_str()) != 0) {

@@ -11,7 +11,9 @@
 //
 // Writing: a file is written to "<path>.tmp" in the same folder, flushed to
 // disk and renamed over the old file, so a failed or interrupted save leaves
-// the old file whole.
+// the old file whole. An old file that the player could not open for output
+// (read-only, say) fails the save and stays as it is; a replaced file keeps
+// its permissions.
 #include <cstdint>
 #include <istream>
 #include <string>

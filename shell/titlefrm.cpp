@@ -1,7 +1,5 @@
 #include "shell/titlefrm.h"
 
-#include <QImageReader>
-
 #include "platform/files.h"
 #include "records/inf_files.h"
 #include "shell/common.h"
@@ -12,12 +10,12 @@ namespace shell {
 
 namespace {
 
-// A picture the title screen can do without: missing or unreadable files are
-// caught here instead of ending the game.
+// A picture the title screen can do without: a file that is missing or
+// cannot be decoded fails the start-up quietly instead of ending the game.
 bool loadOptionalPicture(platform::PictureBox& box, const std::string& path) {
-    const auto file = platform::findGameFile(path);
-    if (!file || !QImageReader(*file).canRead()) return false;
-    box.loadPicture(path);
+    const auto picture = platform::tryLoadPicture(path);
+    if (!picture) return false;
+    box.setPicture(*picture);
     return true;
 }
 

@@ -52,13 +52,15 @@ TEST(SoundCharacter, TheTwoClicksAreShortAndDifferent) {
 }
 
 TEST(SoundCharacter, TheChimeRingsAndFades) {
-    const auto& metal = sounds().at("METAL2.wav");
+    const auto all = sounds();
+    const auto& metal = all.at("METAL2.wav");
     EXPECT_GT(rms(metal, 0.0, 0.1), 4 * rms(metal, 0.8, 0.9));
     EXPECT_GT(rms(metal, 0.4, 0.5), 0.02) << "still ringing halfway";
 }
 
 TEST(SoundCharacter, TheFanfareClimbsAMajorChord) {
-    const auto& fanfare = sounds().at("fanf3.wav");
+    const auto all = sounds();
+    const auto& fanfare = all.at("fanf3.wav");
     // Each note's own window; the brass harmonics leave the fundamental's
     // crossing rate as the strongest measure, so compare notes with each other.
     const double first = crossingRate(fanfare, 0.03, 0.13);

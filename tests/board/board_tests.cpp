@@ -44,6 +44,7 @@ class BoardTests : public QObject {
         takeSounds();
         return b;
     }
+    static int cells(const Board& b) { return b.layout().n * b.layout().n; }
     static records::Highscores* scores() {
         return static_cast<records::Highscores*>(platform::screens::loaded("highscores"));
     }
@@ -72,7 +73,7 @@ class BoardTests : public QObject {
     }
 
     static int pieceOn(const Board& b, int cell) {
-        for (int p = 0; p < b.cellcount; ++p)
+        for (int p = 0; p < cells(b); ++p)
             if (liesOn(b.Image2(p), b.Image1(cell))) return p;
         return -1;
     }
@@ -84,19 +85,19 @@ class BoardTests : public QObject {
         return engine::pieceNumber(n, b.game().solution[x][y], y);
     }
     static int firstCell(const Board& b, bool given) {
-        for (int c = 0; c < b.cellcount; ++c)
+        for (int c = 0; c < cells(b); ++c)
             if (isGiven(b, c) == given) return c;
         return -1;
     }
     // Drags the right piece onto every empty cell, row by row.
     static void solve(Board& b) {
-        for (int c = 0; c < b.cellcount; ++c)
+        for (int c = 0; c < cells(b); ++c)
             if (pieceOn(b, c) < 0) dragTo(b, solutionPiece(b, c), b.Image1(c));
     }
     // A fresh puzzle: the givens, and only they, locked on their solution
     // cells under a marker; every other piece movable in its own slot.
     static void verifyFreshPuzzle(const Board& b, int givens) {
-        for (int c = 0; c < b.cellcount; ++c) {
+        for (int c = 0; c < cells(b); ++c) {
             const auto& piece = b.Image2(solutionPiece(b, c));
             const bool given = isGiven(b, c);
             givens -= given;
@@ -105,10 +106,48 @@ class BoardTests : public QObject {
         }
         QCOMPARE(givens, 0);  // no more, no fewer
     }
+    static bool shows(const PictureBox& box, const std::string& file) {
+        return !box.picture().isNull() &&
+               box.picture().cacheKey() == platform::loadPicture(file).cacheKey();
+    }
+    // The colour of the region behind a cell, as laid out.
+    static QColor regionColour(const Board& b, int cell) {
+        const auto& c = b.Image1(cell);
+        const QPointF middle(c.Left() + c.Width() / 2, c.Top() + c.Height() / 2);
+        for (const auto& region : b.layout().regions) {
+            const auto& r = region.rect;
+            if (QRectF(r.left, r.top, r.width, r.height).contains(middle))
+                return platform::bgr(region.colour);
+        }
+        return {};
+    }
+    // Of the board's region colours, the one a marker's middle is nearest to.
+    static QColor regionColourOfMarker(const Board& b, int cell) {
+        const QImage shown = b.Image5(cell).grab().toImage();
+        const QColor seen = shown.pixelColor(shown.width() / 2, shown.height() / 2);
+        auto distance = [&](const QColor& c) {
+            return std::abs(c.red() - seen.red()) + std::abs(c.green() - seen.green()) +
+                   std::abs(c.blue() - seen.blue());
+        };
+        QColor nearest;
+        for (const auto& region : b.layout().regions) {
+            const QColor c = platform::bgr(region.colour);
+            if (!nearest.isValid() || distance(c) < distance(nearest)) nearest = c;
+        }
+        return nearest;
+    }
+    // Every piece, slot and marker shows the window's pointer.
+    static bool allShow(const Board& b, Qt::CursorShape shape) {
+        bool all = b.cursor().shape() == shape;
+        for (int k = 0; k < cells(b); ++k)
+            for (const PictureBox* p : {&b.Image2(k), &b.Image3(k), &b.Image5(k)})
+                all = all && p->cursor().shape() == shape;
+        return all;
+    }
     // The pieces show the symbol files of the board's current set.
     static bool showsCurrentSet(const Board& b) {
         const auto& set = board::catalogue(b.layout().boardsize).at(b.pictureset);
-        for (int p = 0; p < b.cellcount; ++p) {
+        for (int p = 0; p < cells(b); ++p) {
             const QPixmap file = platform::loadPicture(set.symbolPath(p / b.layout().n + 1));
             if (b.Image2(p).picture().cacheKey() != file.cacheKey()) return false;
         }
@@ -123,12 +162,16 @@ class BoardTests : public QObject {
         QDir::setCurrent(folder.path());
         board::registerScreens();
         records::registerScreens();
+        // "Exit" goes back to the options screen; a plain stand-in does here.
+        platform::screens::registerScreen("Startplay2", [] {
+            return new platform::Form("Startplay2", platform::FormKind::Fixed);
+        });
         platform::setFatalHandler(
             [](const QString& m) { throw std::runtime_error(m.toStdString()); });
         platform::setSoundObserver([](const std::string& path) { heard.push_back(path); });
     }
     void cleanup() {
-        for (const char* name : {"jigsaw", "jigsaw5x5", "jigsaw6x6", "highscores"})
+        for (const char* name : {"jigsaw", "jigsaw5x5", "jigsaw6x6", "highscores", "Startplay2"})
             platform::screens::unload(name);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
@@ -146,13 +189,21 @@ class BoardTests : public QObject {
         QFETCH(int, size);
         QFETCH(int, givens);
         Board& b = open(size);
-        for (int k = 0; k < b.cellcount; ++k) {
+        for (int k = 0; k < cells(b); ++k) {
             // Pieces lie above slots and cells, markers above pieces.
             QVERIFY(b.Image3(k).Visible());
             QCOMPARE(b.childAt(centre(b.Image2(k))), &b.Image2(k));
             if (b.Image5(k).Visible()) QCOMPARE(b.childAt(centre(b.Image5(k))), &b.Image5(k));
+            // A marker wears the colour of its cell's quarter or rectangle.
+            if (b.Image5(k).Visible()) QCOMPARE(regionColourOfMarker(b, k), regionColour(b, k));
         }
         verifyFreshPuzzle(b, givens);
+        // Thumbnail s stands for set s; the 4x4 logo comes after the sets.
+        const auto& sets = board::catalogue(size);
+        for (std::size_t s = 0; s < sets.size(); ++s)
+            QVERIFY(shows(b.Image4(int(s)), sets[s].thumbnailPath()));
+        QCOMPARE(b.Image4.has(int(sets.size())), size == 0);
+        if (size == 0) QVERIFY(shows(b.Image4(int(sets.size())), board::kLogoPicture));
         const int cell = firstCell(b, false), piece = solutionPiece(b, cell);
         const auto& c = b.Image1(cell);
         QCOMPARE(b.childAt(centre(c)), &c);  // above the regions
@@ -263,9 +314,9 @@ class BoardTests : public QObject {
 
         for (QPoint over : {centre(o), centre(b.Label3(StartAgain))}) {
             QTest::mouseMove(b.windowHandle(), pixel(15000, 1500));  // bare background
-            QVERIFY(!b.hasMouseIcon());
+            QVERIFY(!b.hasMouseIcon() && allShow(b, Qt::ArrowCursor));
             QTest::mouseMove(b.windowHandle(), over);
-            QVERIFY(b.hasMouseIcon());
+            QVERIFY(b.hasMouseIcon() && allShow(b, Qt::BitmapCursor));
         }
         QCOMPARE(b.children().last(), &o);
     }
@@ -290,13 +341,68 @@ class BoardTests : public QObject {
         QVERIFY(scores() && scores()->isVisible() && scores()->Text1(1).isVisible());
     }
 
+    // Solves the puzzle in `seconds` by the clock and runs the check.
+    static void solveIn(Board& b, int seconds) {
+        b.Timer1.setEnabled(false);  // the clock moves only when the test ticks it
+        for (int i = 0; i < seconds; ++i) b.Timer1.tick();
+        solve(b);
+        b.Timer2.tick();
+        QCOMPARE(b.Label7->Caption(), "Correct in " + std::to_string(seconds) + " seconds!!!");
+    }
+
+    // Two records in a row, the name box of the first still open (a picture
+    // set click leaves the fastest times open): the same box moves to the new
+    // entry with the name typed so far, over the tables as they now stand.
+    void secondRecordKeepsTheTypedName() {
+        auto& m = shell::module1();
+        m.loadfailed = 0;
+        for (auto& t : m.besttime[0][2]) t = 0;
+        Board& b = open(0, 2, 1);
+        click(b, b.Label3(SwitchPanel));  // the thumbnails show
+        solveIn(b, 9);
+        QVERIFY(scores() && scores()->Text1(2).isVisible());
+        QTest::keyClicks(&scores()->Text1(2), "Ann");
+        scores()->Timer1.tick();
+
+        click(b, b.Image4((b.pictureset + 1) % 8));
+        QVERIFY(scores() && scores()->isVisible());
+        solveIn(b, 4);
+        records::Highscores& s = *scores();
+        QCOMPARE(s.Text1(2).Text(), std::string("Ann"));
+        QCOMPARE(s.Text1(2).Top(), 540.0f);  // over rank 1
+        QVERIFY(s.Text1(2).isVisible() && s.Label1->isVisible() && s.Timer1.Enabled());
+        QCOMPARE(s.Label9(10).Caption(), std::string("4"));
+        QCOMPARE(s.Label9(11).Caption(), std::string("9"));
+        QCOMPARE(s.Label8(11).Caption(), std::string("Ann"));
+        s.Timer1.tick();
+        QVERIFY(m.bestname[0][2][0] == "Ann" && m.bestname[0][2][1] == "Ann");
+    }
+
+    // A hand-edited board size outside 0..2 plays the 4x4 board: the time goes
+    // into a 4x4 table, and so does the name typed for it, though the
+    // fastest-times screen keeps its design texts.
+    void unknownBoardSizeKeepsTheTypedName() {
+        auto& m = shell::module1();
+        m.loadfailed = 0;
+        for (auto& t : m.besttime[0][1]) t = 0;
+        Board& b = open(0, 1, 1);
+        m.boardsize = 7;
+        solveIn(b, 5);
+        QVERIFY(scores() && scores()->Text1(1).isVisible());
+        QCOMPARE(scores()->Label8(5).Caption(), std::string("Solo Play"));
+        QTest::keyClicks(&scores()->Text1(1), "Kim");
+        scores()->Timer1.tick();
+        QCOMPARE(m.besttime[0][1][0], std::int16_t(5));
+        QCOMPARE(m.bestname[0][1][0], std::string("Kim"));
+    }
+
     // Two free pieces of one row dropped on each other's cells: the rows still
     // add up, the columns do not.
     void wrongGridNamesTheFailingKind() {
         Board& b = open(0, 2);
         const int n = b.layout().n;
         int first = -1, second = -1;
-        for (int c = 0; c < b.cellcount && second < 0; ++c) {
+        for (int c = 0; c < cells(b) && second < 0; ++c) {
             if (isGiven(b, c)) continue;
             if (first >= 0 && first / n == c / n)
                 second = c;
@@ -385,6 +491,8 @@ class BoardTests : public QObject {
             takeSounds();
             byWindowManager ? void(b.close()) : click(b, b.Label3(Exit));
             QVERIFY(!platform::screens::isLoaded("jigsaw6x6") && !scores());
+            QVERIFY(platform::screens::get("Startplay2").isVisible());
+            platform::screens::unload("Startplay2");
             QCOMPARE(takeSounds(), Sounds{"wav\\click.wav"});
             records::LastGame saved;
             records::FastestTimes tables;
@@ -465,7 +573,7 @@ class BoardTests : public QObject {
         QVERIFY(b.ring().shown() && b.picking().picked() == -1);
         QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Image3(0).geometry()));
         const int columns = b.layout().trayColumns;
-        for (int c = 0; c < b.cellcount; ++c) {
+        for (int c = 0; c < b.layout().n * b.layout().n; ++c) {
             if (isGiven(b, c)) continue;
             const int piece = solutionPiece(b, c);
             while (b.ring().slot() / columns != piece / columns)

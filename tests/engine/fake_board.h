@@ -8,6 +8,7 @@
 
 #include "engine/game.h"
 #include "engine/grid.h"
+#include "scripted_random.h"
 
 namespace engine::testing {
 

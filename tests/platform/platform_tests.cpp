@@ -77,6 +77,27 @@ QByteArray cursorFile(int size, int hotX, int hotY) {
     return file + bmp;
 }
 
+// A mono 16-bit WAV file of `samples` silent samples at 22050 Hz.
+QByteArray wavFile(int samples) {
+    QByteArray file;
+    auto put = [&](quint32 v, int bytes) {
+        for (int i = 0; i < bytes; ++i) file.append(char((v >> (8 * i)) & 0xFF));
+    };
+    file.append("RIFF");
+    put(36 + 2 * samples, 4);
+    file.append("WAVEfmt ");
+    put(16, 4);
+    put(1, 2);  // PCM
+    put(1, 2);  // mono
+    put(22050, 4);
+    put(44100, 4);
+    put(2, 2);
+    put(16, 2);
+    file.append("data");
+    put(2 * samples, 4);
+    return file + QByteArray(2 * samples, '\0');
+}
+
 }  // namespace
 
 class PlatformTests : public QObject {
@@ -234,8 +255,8 @@ class PlatformTests : public QObject {
         QCOMPARE(over.owner(), &board);
         QCOMPARE(over.windowHandle()->transientParent(), board.windowHandle());
 
-        screens::hide("Over");
-        screens::hide("Board");
+        over.hide();
+        board.hide();
         over.Show();  // nothing shown to lie over
         QCOMPARE(over.windowHandle()->transientParent(), nullptr);
         screens::unload("Over");
@@ -303,13 +324,19 @@ class PlatformTests : public QObject {
         QVERIFY(!parseWav("RIFF").playable());
     }
 
+    // The player is handed the file, found whatever its letter case; a missing
+    // file hands it nothing, which silences a sound still playing too.
     void missingSoundsAreSilentButSeen() {
+        QDir().mkpath("wav");
+        writeFile("wav/Beep.wav", wavFile(2205));
         QStringList asked;
         setSoundObserver([&](const std::string& p) { asked << QString::fromStdString(p); });
+        playSound("wav\\BEEP.wav");
+        QCOMPARE(latestSoundFile(), QDir::current().absoluteFilePath("wav/Beep.wav"));
         playSound("wav\\nothere.wav");
-        playSound("wav\\nothere.wav");
+        QCOMPARE(latestSoundFile(), QString());
         setSoundObserver(nullptr);
-        QCOMPARE(asked.size(), 2);
+        QCOMPARE(asked, QStringList({"wav\\BEEP.wav", "wav\\nothere.wav"}));
     }
 };
 

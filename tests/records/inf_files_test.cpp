@@ -2,6 +2,8 @@
 #include "records/inf_files.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -145,6 +147,44 @@ TEST_F(InfFiles, FailedSaveLeavesTheOldFilesWhole) {
     write(path("highscore.inf.tmp"), "half");
     EXPECT_TRUE(records::saveHighscores(highscore_, empty));
     EXPECT_EQ(read(highscore_), fileOf(90, {}));
+}
+
+// A file the player may not write is never replaced by the rename-over save,
+// even in a writable folder: the save fails and both files stay as they were.
+// A file that is replaced keeps its permissions. Root may write any file, so
+// this needs an ordinary user: CI runs it as one (records_tests_as_player).
+TEST_F(InfFiles, FilesThePlayerMayNotWriteStayAsTheyAre) {
+    if (::geteuid() == 0) GTEST_SKIP() << "root may write any file; run as an ordinary user";
+    const std::string oldOptions = "1\r\n1\r\n1\r\n1\r\n", oldRecords = fileOf(90, {{1, "35"}});
+    const LastGame options{0, 1, 0, 2};
+    FastestTimes tables;
+    tables.besttime[0][0][0] = 12;
+    auto identity = [](const std::string& file) {
+        struct stat status {};
+        EXPECT_EQ(::stat(file.c_str(), &status), 0) << file;
+        return std::pair(status.st_ino, status.st_mode & 07777);
+    };
+
+    for (const std::string* readOnly : {&lastgame_, &highscore_}) {
+        write(lastgame_, oldOptions);
+        write(highscore_, oldRecords);
+        fs::permissions(*readOnly, fs::perms::owner_read | fs::perms::group_read);
+        const auto before = identity(*readOnly);
+        EXPECT_FALSE(records::saveBoth(lastgame_, highscore_, options, tables)) << *readOnly;
+        EXPECT_EQ(identity(*readOnly), before) << *readOnly;
+        EXPECT_EQ(read(highscore_), oldRecords);
+        // lastgame.inf comes first: it is written only when it may be.
+        EXPECT_EQ(read(lastgame_),
+                  readOnly == &lastgame_ ? oldOptions : records::lastGameText(options));
+        EXPECT_FALSE(fs::exists(*readOnly + ".tmp"));
+        fs::remove(*readOnly);
+    }
+
+    write(highscore_, oldRecords);
+    fs::permissions(highscore_, fs::perms::owner_read | fs::perms::owner_write);
+    ASSERT_TRUE(records::saveHighscores(highscore_, tables));
+    EXPECT_EQ(identity(highscore_).second, 0600u);
+    EXPECT_EQ(read(highscore_), records::highscoreText(tables));
 }
 
 }  // namespace

@@ -22,6 +22,8 @@ void arriveFromTitle(const char* lastgame) {
     click(*screen<Titlefrm>().Label5);
 }
 
+const QByteArray kLink("link");
+
 }  // namespace
 
 class TitleAndOptionsTests : public ScreenTest {
@@ -31,32 +33,37 @@ class TitleAndOptionsTests : public ScreenTest {
     void startUpKeepsWhatItRead_data() {
         QTest::addColumn<QByteArray>("lastgame");
         QTest::addColumn<int>("highscoreChop");  // bytes cut off the end; -1: no file
-        QTest::addColumn<bool>("withoutLogo");
+        QTest::addColumn<QByteArray>("logo");    // "link": the game's own picture
         // playsound, timerson, hidedesktop, boardsize, the 4x4 level 1 time, loadfailed
         QTest::addColumn<QVector<int>>("after");
         // Before each start-up: boardsize 2 and a 99-second record in memory.
         QTest::newRow("both complete")
-            << QByteArray("1\r\n0\r\n1\r\n1\r\n") << 0 << false << QVector<int>{1, 0, 1, 1, 35, 0};
+            << QByteArray("1\r\n0\r\n1\r\n1\r\n") << 0 << kLink << QVector<int>{1, 0, 1, 1, 35, 0};
         QTest::newRow("highscore.inf missing")
-            << QByteArray("0\r\n1\r\n1\r\n1\r\n") << -1 << false << QVector<int>{0, 1, 1, 1, 99, 1};
+            << QByteArray("0\r\n1\r\n1\r\n1\r\n") << -1 << kLink << QVector<int>{0, 1, 1, 1, 99, 1};
         QTest::newRow("fourth line missing")
-            << QByteArray("1\r\n1\r\n0\r\n") << 0 << false << QVector<int>{1, 1, 0, 2, 99, 1};
+            << QByteArray("1\r\n1\r\n0\r\n") << 0 << kLink << QVector<int>{1, 1, 0, 2, 99, 1};
         // The 90th line is an empty name: only its CR LF goes.
         QTest::newRow("highscore.inf of 89 lines")
-            << QByteArray("1\r\n0\r\n0\r\n0\r\n") << 2 << false << QVector<int>{1, 0, 0, 0, 35, 1};
+            << QByteArray("1\r\n0\r\n0\r\n0\r\n") << 2 << kLink << QVector<int>{1, 0, 0, 0, 35, 1};
         // The pictures come before the files, so nothing is read.
-        QTest::newRow("logo missing")
-            << QByteArray("1\r\n1\r\n1\r\n1\r\n") << 0 << true << QVector<int>{0, 0, 0, 2, 99, 1};
+        QTest::newRow("logo missing") << QByteArray("1\r\n1\r\n1\r\n1\r\n") << 0 << QByteArray()
+                                      << QVector<int>{0, 0, 0, 2, 99, 1};
+        // A JPEG's first bytes, then nothing a decoder can use.
+        QTest::newRow("logo undecodable")
+            << QByteArray("1\r\n1\r\n1\r\n1\r\n") << 0 << QByteArray("\xff\xd8\xff\xe0 broken")
+            << QVector<int>{0, 0, 0, 2, 99, 1};
     }
 
     void startUpKeepsWhatItRead() {
         QFETCH(QByteArray, lastgame);
         QFETCH(int, highscoreChop);
-        QFETCH(bool, withoutLogo);
-        if (withoutLogo) {
+        QFETCH(QByteArray, logo);
+        if (logo != kLink) {
             QVERIFY(QFile::remove("Images") && QDir().mkdir("Images"));
             for (const QString name : {"pimbalo.jpg", "opening3.jpg"})
                 QVERIFY(QFile::link(kGameFolder + "/Images/" + name, "Images/" + name));
+            if (!logo.isEmpty()) writeFile("Images/logo4.jpg", logo);
         }
         auto& shared = shell::module1();
         shared.boardsize = 2;

@@ -7,7 +7,6 @@
 #include <string>
 
 #include "records/fastest_times.h"
-#include "shell/module1.h"
 
 using records::Highscores;
 using std::string;
@@ -17,19 +16,18 @@ const QColor kYellow(255, 255, 0), kRed(255, 0, 0), kBlue(0, 0, 255);
 class HighscoresTests : public QObject {
     Q_OBJECT
 
-    static shell::Module1& m() { return shell::module1(); }
+    static inline records::FastestTimes tables;
+    static inline std::int16_t newrank = 0;
     static Highscores& screen() { return records::highscores(); }
     static QColor textColour(const QWidget& w) { return w.palette().color(QPalette::WindowText); }
     static void setEntry(int size, int level, int rank, int time, const string& name) {
-        m().besttime[size][level][rank] = std::int16_t(time);
-        m().bestname[size][level][rank] = name;
+        tables.besttime[size][level][rank] = std::int16_t(time);
+        tables.bestname[size][level][rank] = name;
     }
     // What a board's checkhighscore does: rank the clock's time, then open.
     static void qualify(int boardsize, int level, const char* clock) {
-        m().boardsize = std::int16_t(boardsize);
-        m().level = std::int16_t(level);
-        QVERIFY(records::rankTime(m(), boardsize, level, clock, m().loadfailed, m().newrank));
-        records::openForNameEntry();
+        QVERIFY(records::rankTime(tables, boardsize, level, clock, 0, newrank));
+        records::openForNameEntry(tables, boardsize, {boardsize, level, newrank});
     }
     // A real left click on "Continue", routed through the window.
     static void clickContinue() {
@@ -45,11 +43,11 @@ class HighscoresTests : public QObject {
     void init() {
         platform::screens::unload(Highscores::kName);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        m() = shell::Module1{};
+        tables = records::FastestTimes{};
     }
 
     void viewingEmptyTablesInTheBoardsColour() {
-        records::openForViewing(kBlue);
+        records::openForViewing(tables, 1, kBlue);
         Highscores& s = screen();
         // A 1280 x 1024 screen holds the board at 1920, 1920; this lies 15
         // below its top edge, its border flush with the board's sides.
@@ -76,7 +74,7 @@ class HighscoresTests : public QObject {
                     setEntry(s, j, 1, 0, "ghost");  // a name beside an empty entry
                     setEntry(s, j, 2, -7, "minus");
                 }
-            m().boardsize = std::int16_t(size);
+            records::openForViewing(tables, size, kBlue);
             Highscores& s = screen();
             const bool known = size >= 0 && size < records::kSizes;
             const string n = std::to_string(known ? size + 4 : 4);
@@ -106,7 +104,7 @@ class HighscoresTests : public QObject {
         // Typing goes into the box at once, and into the table on a tick.
         QVERIFY(QTest::qWaitForWindowActive(&s));
         QTest::keyClicks(nullptr, "Ann");
-        string& entry = m().bestname[0][1][2];
+        string& entry = tables.bestname[0][1][2];
         QTRY_COMPARE_WITH_TIMEOUT(entry, string("Ann"), 2000);  // the running timer
 
         box.clear();
@@ -125,20 +123,20 @@ class HighscoresTests : public QObject {
         qualify(2, 1, "50");
         QTest::keyClicks(&screen().Text1(1), "Dee");
         clickContinue();  // keys after the latest tick still count
-        QCOMPARE(m().bestname[2][1][0], string("Dee"));
-        records::openForViewing(kBlue);
+        QCOMPARE(tables.bestname[2][1][0], string("Dee"));
+        records::openForViewing(tables, 2, kBlue);
         clickContinue();
-        QCOMPARE(m().bestname[2][1][0], string("Dee"));
+        QCOMPARE(tables.bestname[2][1][0], string("Dee"));
 
         // Closed through the desktop, it is "Continue": the name is kept.
         qualify(2, 1, "48");
         QTest::keyClicks(&screen().Text1(1), "Eve");
         screen().close();
         QVERIFY(!platform::screens::isLoaded(Highscores::kName));
-        QCOMPARE(m().bestname[2][1][0], string("Eve"));
+        QCOMPARE(tables.bestname[2][1][0], string("Eve"));
 
         // A record while the tables are on view: red again, the new time shown.
-        records::openForViewing(kBlue);
+        records::openForViewing(tables, 2, kBlue);
         qualify(2, 1, "45");
         QCOMPARE(screen().BackColor(), kRed);
         QCOMPARE(screen().Label9(records::kRanks).Caption(), string("45"));
