@@ -39,7 +39,7 @@ int shiftState(Qt::KeyboardModifiers modifiers) {
 }
 
 void PictureBox::loadPicture(const std::string& relativePath) {
-    setPicture(platform::loadPicture(relativePath));
+    setPicture(platform::loadPicture(relativePath, size()));
 }
 
 void PictureBox::setPicture(const QPixmap& picture) {

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QHash>
 #include <QImageReader>
 
@@ -30,6 +31,39 @@ QHash<QString, QPixmap>& pictureCache() {
     return cache;
 }
 
+// Decodes a picture file for a box of boxPixels (empty: at the file's size).
+// Records why it failed in *error.
+QPixmap readPicture(const QString& file, QSize boxPixels, QString* error) {
+    QImageReader reader(file);
+    const qreal ratio = qApp ? qApp->devicePixelRatio() : 1.0;
+    const QSize shown = boxPixels * ratio;
+    const QSize stored = reader.size();
+    const bool shrink =
+        !boxPixels.isEmpty() && stored.width() > shown.width() && stored.height() > shown.height();
+    // JPEG pictures shrink while they are decoded, at a fraction of the work.
+    if (shrink) reader.setScaledSize(shown);
+    QImage image = reader.read();
+    if (image.isNull()) {
+        *error = reader.errorString();
+        return {};
+    }
+    QPixmap pixmap = QPixmap::fromImage(std::move(image));
+    if (shrink) pixmap.setDevicePixelRatio(ratio);
+    return pixmap;
+}
+
+// The cached picture, or a null one with the reason in *error.
+QPixmap cachedPicture(const QString& file, QSize boxPixels, QString* error) {
+    QString key = QFileInfo(file).absoluteFilePath();
+    if (!boxPixels.isEmpty())
+        key += QStringLiteral("@%1x%2").arg(boxPixels.width()).arg(boxPixels.height());
+    auto cached = pictureCache().constFind(key);
+    if (cached != pictureCache().constEnd()) return *cached;
+    QPixmap pixmap = readPicture(file, boxPixels, error);
+    if (!pixmap.isNull()) pictureCache().insert(key, pixmap);
+    return pixmap;
+}
+
 }  // namespace
 
 std::optional<QString> findGameFile(const std::string& relativePath) {
@@ -46,18 +80,22 @@ std::optional<QString> findGameFile(const std::string& relativePath) {
     return found;
 }
 
-QPixmap loadPicture(const std::string& relativePath) {
+QPixmap loadPicture(const std::string& relativePath, QSize boxPixels) {
     const auto file = findGameFile(relativePath);
     const QString shown = QString::fromStdString(relativePath);
     if (!file) fatalFileError(shown, QStringLiteral("file not found"));
-    const QString key = QFileInfo(*file).absoluteFilePath();
-    auto cached = pictureCache().constFind(key);
-    if (cached != pictureCache().constEnd()) return *cached;
-    QImageReader reader(*file);
-    const QImage image = reader.read();
-    if (image.isNull()) fatalFileError(shown, reader.errorString());
-    QPixmap pixmap = QPixmap::fromImage(image);
-    pictureCache().insert(key, pixmap);
+    QString error;
+    QPixmap pixmap = cachedPicture(*file, boxPixels, &error);
+    if (pixmap.isNull()) fatalFileError(shown, error);
+    return pixmap;
+}
+
+std::optional<QPixmap> tryLoadPicture(const std::string& relativePath, QSize boxPixels) {
+    const auto file = findGameFile(relativePath);
+    if (!file) return std::nullopt;
+    QString error;
+    QPixmap pixmap = cachedPicture(*file, boxPixels, &error);
+    if (pixmap.isNull()) return std::nullopt;
     return pixmap;
 }
 

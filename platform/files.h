@@ -15,9 +15,17 @@ namespace platform {
 // matched component by component ignoring case; nullopt when there is none.
 std::optional<QString> findGameFile(const std::string& relativePath);
 
-// A picture from a game path. A missing or unreadable file ends the program
-// after reporting it (fatalFileError). Pictures are cached by file.
-QPixmap loadPicture(const std::string& relativePath);
+// A picture from a game path, for a box of the given size in pixels (none:
+// the file's own size). The picture files are drawn at twice their box's
+// size so that they stay sharp on high-density screens; on a screen of
+// lower density the picture is decoded straight at the size it is shown,
+// which spares the decoding and the memory of pixels nobody sees. A missing
+// or unreadable file ends the program after reporting it (fatalFileError).
+// Pictures are cached by file and size.
+QPixmap loadPicture(const std::string& relativePath, QSize boxPixels = {});
+
+// The same, but a missing or unreadable file gives nullopt.
+std::optional<QPixmap> tryLoadPicture(const std::string& relativePath, QSize boxPixels = {});
 
 // A pointer from a Windows cursor file (hot spot read from the file).
 // Missing or unreadable files end the program like pictures.

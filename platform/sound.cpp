@@ -1,10 +1,12 @@
 #include "platform/sound.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
-#include <QSoundEffect>
-#include <QUrl>
+#include <QLibrary>
+#include <QStringList>
 
 #include "platform/files.h"
+#include "platform/sound_module.h"
 
 namespace platform {
 namespace {
@@ -13,9 +15,29 @@ std::function<void(const std::string&)>& observer() {
     return o;
 }
 
-QSoundEffect* effect() {
-    static QSoundEffect* e = new QSoundEffect();  // lives for the whole run
-    return e;
+// Beside the executable first (the game folder of a build), then where an
+// installed game keeps it, then the game folder it was built with (tests and
+// other tools of the build).
+QStringList moduleFolders() {
+    QStringList folders;
+    if (QCoreApplication::instance()) folders << QCoreApplication::applicationDirPath();
+    for (const char* folder : {PIMBALO_SOUND_MODULE_DIRS})
+        if (*folder) folders << QString::fromUtf8(folder);
+    return folders;
+}
+
+// The module's play function, loaded once; nullptr (silence) when it cannot
+// be found or loaded, e.g. Qt Multimedia is missing.
+PlaySoundEntry player() {
+    static const PlaySoundEntry entry = [] {
+        for (const QString& folder : moduleFolders()) {
+            QLibrary module(folder + QLatin1Char('/') + QLatin1String(kSoundModuleName));
+            if (auto play = reinterpret_cast<PlaySoundEntry>(module.resolve(kSoundModuleEntry)))
+                return play;  // the module stays loaded for the rest of the run
+        }
+        return PlaySoundEntry(nullptr);
+    }();
+    return entry;
 }
 }  // namespace
 
@@ -27,10 +49,8 @@ void playSound(const std::string& relativePath) {
     if (observer()) observer()(relativePath);
     const auto file = findGameFile(relativePath);
     if (!file) return;
-    QSoundEffect* e = effect();
-    e->stop();
-    e->setSource(QUrl::fromLocalFile(QFileInfo(*file).absoluteFilePath()));
-    e->play();  // starts once loaded; never waited on
+    if (PlaySoundEntry play = player())
+        play(QFileInfo(*file).absoluteFilePath().toUtf8().constData());
 }
 
 }  // namespace platform

@@ -1,7 +1,5 @@
 #include "shell/titlefrm.h"
 
-#include <QImageReader>
-
 #include "platform/desktop.h"
 #include "platform/files.h"
 #include "records/inf_files.h"
@@ -16,9 +14,9 @@ namespace {
 // A picture the title screen can do without: missing or unreadable files are
 // caught here instead of ending the game.
 bool loadOptionalPicture(platform::PictureBox& box, const std::string& path) {
-    const auto file = platform::findGameFile(path);
-    if (!file || !QImageReader(*file).canRead()) return false;
-    box.loadPicture(path);
+    const auto picture = platform::tryLoadPicture(path, box.size());
+    if (!picture) return false;
+    box.setPicture(*picture);
     return true;
 }
 

@@ -107,7 +107,8 @@ class BoardTests : public QObject {
     static bool showsCurrentSet(const Board& b) {
         const auto& set = board::catalogue(b.layout().boardsize).at(b.pictureset);
         for (int p = 0; p < b.cellcount; ++p) {
-            const QPixmap file = platform::loadPicture(set.symbolPath(p / b.layout().n + 1));
+            const QPixmap file =
+                platform::loadPicture(set.symbolPath(p / b.layout().n + 1), b.Image2(p).size());
             if (b.Image2(p).picture().cacheKey() != file.cacheKey()) return false;
         }
         return true;
