@@ -108,6 +108,19 @@ class PlatformTests : public QObject {
         QCOMPARE(loadPicture("IMAGES\\dice\\one.jpg").size(), QSize(8, 8));
     }
 
+    // Files hold pictures at twice their box's size; on this screen (one pixel
+    // per pixel) they are decoded at the box's size, never enlarged.
+    void picturesAreDecodedForTheirBox() {
+        const QPixmap half = loadPicture("Images\\Dice\\One.jpg", QSize(4, 4));
+        QCOMPARE(half.size(), QSize(4, 4));
+        QCOMPARE(half.cacheKey(), loadPicture("images\\dice\\one.jpg", QSize(4, 4)).cacheKey());
+        QCOMPARE(loadPicture("Images\\Dice\\One.jpg", QSize(16, 16)).size(), QSize(8, 8));
+        QCOMPARE(loadPicture("Images\\Dice\\One.jpg").size(), QSize(8, 8));
+        QCOMPARE(half.toImage().pixelColor(1, 1).green(), 255);
+        QVERIFY(!tryLoadPicture("Images\\broken.jpg", QSize(4, 4)));
+        QVERIFY(!tryLoadPicture("Images\\nothere.jpg"));
+    }
+
     void unreadablePicturesEndTheGameNamingTheFile() {
         for (const char* path : {"Images\\nothere.jpg", "Images\\broken.jpg"}) {
             try {
@@ -220,6 +233,21 @@ class PlatformTests : public QObject {
         playSound("wav\\nothere.wav");
         setSoundObserver(nullptr);
         QCOMPARE(asked.size(), 2);
+    }
+
+    // The audio libraries come with the first sound that has a file to play.
+    void theFirstSoundLoadsTheSoundModule() {
+        auto moduleLoaded = [] {
+            QFile maps("/proc/self/maps");
+            return maps.open(QIODevice::ReadOnly) && maps.readAll().contains("libpimbalo_sound");
+        };
+        QVERIFY(!moduleLoaded());
+        playSound("wav\\nothere.wav");
+        QVERIFY(!moduleLoaded());
+        QDir().mkpath("wav");
+        writeFile("wav/click.wav", "RIFF");
+        playSound("wav\\click.wav");
+        QVERIFY(moduleLoaded());
     }
 };
 
