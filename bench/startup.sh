@@ -11,7 +11,8 @@
 # with both saved files, clicks "OK" and level "1" with real X input and
 # times the board (the board size turns 4x4, 5x5, 6x6 from round to round).
 # Prints the medians, the ratio to the bare window and the memory; the raw
-# lines are kept in the folder named at the end.
+# lines are kept in the folder named at the end. The second row, the bare
+# window with one line of text, shows what drawing any text costs on top.
 # BENCH_DIR names the folder holding startup and bare_window (build/bench).
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -21,8 +22,10 @@ if [[ ${1:-} == -n ]]; then
     shift 2
 fi
 bench_dir=${BENCH_DIR:-$root/build/bench}
-games=("$@")
-[[ ${#games[@]} -gt 0 ]] || games=("$root/build/game/pimbalo")
+games=()
+for exe in "${@:-$root/build/game/pimbalo}"; do
+    games+=("$(realpath "$exe")")
+done
 for exe in "$bench_dir/startup" "$bench_dir/bare_window" "${games[@]}"; do
     [[ -x $exe ]] || { echo "not built: $exe" >&2; exit 1; }
 done
@@ -76,8 +79,11 @@ run_one() {  # index executable round
     local k=$1 exe=$2 round=$3 size=$(($3 % 3)) dir=$work/run
     rm -rf "$dir"
     mkdir -p "$dir"
-    if ((k == 0)); then
-        line=$(cd "$dir" && "$bench_dir/startup" -- "$exe" 2>>"$out/program$k.log") || true
+    if ((k < 2)); then
+        local text=()
+        ((k == 1)) && text=(--text)
+        line=$(cd "$dir" && "$bench_dir/startup" -- "$exe" "${text[@]}" 2>>"$out/program$k.log") ||
+            true
     else
         ln -s "$(dirname "$exe")/Images" "$dir/Images"
         ln -s "$(dirname "$exe")/wav" "$dir/wav"
@@ -88,7 +94,7 @@ run_one() {  # index executable round
     [[ $line != error* ]] || echo "program $k round $round: $line" >&2
 }
 
-programs=("$bench_dir/bare_window" "${games[@]}")
+programs=("$bench_dir/bare_window" "$bench_dir/bare_window" "${games[@]}")
 count=${#programs[@]}
 for round in $(seq 0 $((rounds - 1))); do
     for step in $(seq 0 $((count - 1))); do
@@ -113,27 +119,31 @@ most() {  # file field: the largest value
 }
 
 bare_map=$(median "$out/program0.txt" map_ms)
+bare_cpu=$(median "$out/program0.txt" cpu_map_ms)
 bare_hwm=$(median "$out/program0.txt" hwm_1s_kb)
-echo "Start-up under Xvfb, $rounds rounds, medians (memory in MB, one second after the map)"
-printf '%-3s %8s %6s %8s %8s %9s %8s %8s %8s %8s\n' "#" "map ms" ratio "peak" "resident" "peak-bare" \
-    "4x4 ms" "5x5 ms" "6x6 ms" "board max"
+echo "Start-up under Xvfb, $rounds rounds, medians: fork to first map (wall clock and processor"
+echo "time), memory in MB one second after the map, level click to board map"
+printf '%-3s %8s %6s %8s %6s %8s %8s %9s %8s %8s %8s %8s\n' "#" "map ms" ratio "cpu ms" ratio \
+    "peak" "resident" "peak-bare" "4x4 ms" "5x5 ms" "6x6 ms" "board max"
 for k in $(seq 0 $((count - 1))); do
     f=$out/program$k.txt
     map=$(median "$f" map_ms)
+    cpu=$(median "$f" cpu_map_ms)
     hwm=$(median "$f" hwm_1s_kb)
     rss=$(median "$f" rss_1s_kb)
     boards=("-" "-" "-")
     worst="-"
-    if ((k > 0)); then
+    if ((k > 1)); then
         boards=("$(median "$f" board_ms 0)" "$(median "$f" board_ms 1)" "$(median "$f" board_ms 2)")
         worst=$(most "$f" board_ms)
     fi
-    awk -v k="$k" -v map="$map" -v bm="$bare_map" -v hwm="$hwm" -v bh="$bare_hwm" -v rss="$rss" \
-        -v b0="${boards[0]}" -v b1="${boards[1]}" -v b2="${boards[2]}" -v w="$worst" 'BEGIN {
-        printf "%-3s %8.1f %6.2f %8.1f %8.1f %+9.1f %8s %8s %8s %8s\n", k, map, map / bm,
-            hwm / 1024, rss / 1024, (hwm - bh) / 1024, b0, b1, b2, w }'
+    awk -v k="$k" -v map="$map" -v bm="$bare_map" -v cpu="$cpu" -v bc="$bare_cpu" -v hwm="$hwm" \
+        -v bh="$bare_hwm" -v rss="$rss" -v b0="${boards[0]}" -v b1="${boards[1]}" \
+        -v b2="${boards[2]}" -v w="$worst" 'BEGIN {
+        printf "%-3s %8.1f %6.2f %8.1f %6.2f %8.1f %8.1f %+9.1f %8s %8s %8s %8s\n", k, map,
+            map / bm, cpu, cpu / bc, hwm / 1024, rss / 1024, (hwm - bh) / 1024, b0, b1, b2, w }'
 done
 for k in $(seq 0 $((count - 1))); do
-    echo "$k: ${programs[$k]}"
+    echo "$k: ${programs[$k]}$( ((k == 1)) && echo " --text")"
 done
 echo "raw lines: $out/program*.txt"
