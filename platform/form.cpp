@@ -108,6 +108,10 @@ void Form::Show() {
         if (over && over != windowHandle()) windowHandle()->setTransientParent(over);
     }
     show();
+    if (!fontsSettled_) {
+        settleFonts(*this);
+        fontsSettled_ = true;
+    }
     // The offscreen platform used by the tests has no stacking to change.
     if (QGuiApplication::platformName() != QLatin1String("offscreen")) raise();
     if (!(windowFlags() & Qt::WindowDoesNotAcceptFocus)) activateWindow();

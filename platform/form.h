@@ -59,6 +59,7 @@ class Form : public QWidget {
     FormKind kind_;
     QColor back_;
     bool hasIcon_ = false;
+    bool fontsSettled_ = false;
     float left_ = 0, top_ = 0;  // twips as last written, so reads are exact
 };
 

@@ -121,6 +121,23 @@ class PlatformTests : public QObject {
         QVERIFY(!tryLoadPicture("Images\\nothere.jpg"));
     }
 
+    // Controls keep the first face of their list that is installed; a list
+    // with no installed face is left to the font system.
+    void shownWindowsUseInstalledFaces() {
+        QWidget window;
+        Label substituted(&window), unknown(&window), plain(&window);
+        QFont font = designFont("No Such Face", 12, true);
+        font.setFamilies({"No Such Face", "DejaVu Sans", "Liberation Sans"});
+        substituted.setFont(font);
+        font.setFamilies({"No Such Face", "Nor This One"});
+        unknown.setFont(font);
+        settleFonts(window);
+        QCOMPARE(substituted.font().families(), QStringList{"DejaVu Sans"});
+        QVERIFY(substituted.font().bold());
+        QCOMPARE(unknown.font().families(), (QStringList{"No Such Face", "Nor This One"}));
+        QVERIFY(!plain.testAttribute(Qt::WA_SetFont));
+    }
+
     void unreadablePicturesEndTheGameNamingTheFile() {
         for (const char* path : {"Images\\nothere.jpg", "Images\\broken.jpg"}) {
             try {
