@@ -16,11 +16,15 @@ std::function<void(const std::string&)>& observer() {
 }
 
 // Beside the executable first (the game folder of a build), then where an
-// installed game keeps it, then the game folder it was built with (tests and
-// other tools of the build).
+// installed game keeps it (found from the executable's folder, so a moved
+// installation still finds it, then by its full path), then the game folder
+// it was built with (tests and other tools of the build).
 QStringList moduleFolders() {
     QStringList folders;
-    if (QCoreApplication::instance()) folders << QCoreApplication::applicationDirPath();
+    if (QCoreApplication::instance()) {
+        const QString executable = QCoreApplication::applicationDirPath();
+        folders << executable << executable + QLatin1String("/../" PIMBALO_SOUND_MODULE_LIBDIR);
+    }
     for (const char* folder : {PIMBALO_SOUND_MODULE_DIRS})
         if (*folder) folders << QString::fromUtf8(folder);
     return folders;
