@@ -1,6 +1,9 @@
 #include "platform/controls.h"
 
+#include <QFontDatabase>
 #include <QPainter>
+#include <QSet>
+#include <algorithm>
 
 #include "platform/files.h"
 
@@ -22,6 +25,26 @@ QFont designFont(const QString& family, double points, bool bold) {
     return font;
 }
 
+void settleFonts(QWidget& window) {
+    static const QSet<QString> installed = [] {
+        QSet<QString> names;
+        for (const QString& family : QFontDatabase::families()) names.insert(family.toLower());
+        return names;
+    }();
+    for (QWidget* control : window.findChildren<QWidget*>()) {
+        if (!control->testAttribute(Qt::WA_SetFont)) continue;
+        const QStringList families = control->font().families();
+        const auto found = std::find_if(families.begin(), families.end(), [](const QString& f) {
+            return installed.contains(f.toLower());
+        });
+        // With none of them installed the font system's own choice remains.
+        if (found == families.end() || families.size() == 1) continue;
+        QFont font = control->font();
+        font.setFamilies({*found});
+        control->setFont(font);
+    }
+}
+
 int buttonState(Qt::MouseButtons buttons) {
     int state = 0;
     if (buttons & Qt::LeftButton) state |= 1;
@@ -39,7 +62,7 @@ int shiftState(Qt::KeyboardModifiers modifiers) {
 }
 
 void PictureBox::loadPicture(const std::string& relativePath) {
-    setPicture(platform::loadPicture(relativePath));
+    setPicture(platform::loadPicture(relativePath, size()));
 }
 
 void PictureBox::setPicture(const QPixmap& picture) {

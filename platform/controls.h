@@ -27,6 +27,14 @@ QColor bgr(std::uint32_t value);
 // faces by sans faces of the same weight).
 QFont designFont(const QString& family, double points, bool bold);
 
+// Gives each control of a window the first face of its font's list that
+// this desktop has. Asking for a face that is not installed, or for a list
+// of faces, makes the font system search every font for the closest ones;
+// the game's own substitutes are just as good and cost nothing. Done once a
+// window is shown (mapped): the font list is read then, just before the
+// first paint needs it anyway.
+void settleFonts(QWidget& window);
+
 // Button state as the handlers see it: 1 left, 2 right, 4 middle; shift 1,
 // ctrl 2, alt 4. X and Y are twips relative to the control.
 struct MouseHandlers {

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QHash>
 #include <QImageReader>
 
@@ -35,24 +36,36 @@ QHash<QString, QPixmap>& pictureCache() {
     return cache;
 }
 
-// The picture of a game path, or why there is none.
-std::optional<QPixmap> readPicture(const std::string& relativePath, QString& whyNot) {
-    const auto file = findGameFile(relativePath);
-    if (!file) {
-        whyNot = QStringLiteral("file not found");
-        return std::nullopt;
+// Decodes a picture file for a box of boxPixels (empty: at the file's size).
+// Records why it failed in *error.
+QPixmap readPicture(const QString& file, QSize boxPixels, QString* error) {
+    QImageReader reader(file);
+    const qreal ratio = qApp ? qApp->devicePixelRatio() : 1.0;
+    const QSize shown = boxPixels * ratio;
+    const QSize stored = reader.size();
+    const bool shrink =
+        !boxPixels.isEmpty() && stored.width() > shown.width() && stored.height() > shown.height();
+    // JPEG pictures shrink while they are decoded, at a fraction of the work.
+    if (shrink) reader.setScaledSize(shown);
+    QImage image = reader.read();
+    if (image.isNull()) {
+        *error = reader.errorString();
+        return {};
     }
-    const QString key = QFileInfo(*file).absoluteFilePath();
+    QPixmap pixmap = QPixmap::fromImage(std::move(image));
+    if (shrink) pixmap.setDevicePixelRatio(ratio);
+    return pixmap;
+}
+
+// The cached picture, or a null one with the reason in *error.
+QPixmap cachedPicture(const QString& file, QSize boxPixels, QString* error) {
+    QString key = QFileInfo(file).absoluteFilePath();
+    if (!boxPixels.isEmpty())
+        key += QStringLiteral("@%1x%2").arg(boxPixels.width()).arg(boxPixels.height());
     auto cached = pictureCache().constFind(key);
     if (cached != pictureCache().constEnd()) return *cached;
-    QImageReader reader(*file);
-    const QImage image = reader.read();
-    if (image.isNull()) {
-        whyNot = reader.errorString();
-        return std::nullopt;
-    }
-    QPixmap pixmap = QPixmap::fromImage(image);
-    pictureCache().insert(key, pixmap);
+    QPixmap pixmap = readPicture(file, boxPixels, error);
+    if (!pixmap.isNull()) pictureCache().insert(key, pixmap);
     return pixmap;
 }
 
@@ -80,16 +93,23 @@ std::optional<QString> findFileBelow(const QString& folder, const std::string& r
     return found;
 }
 
-QPixmap loadPicture(const std::string& relativePath) {
-    QString whyNot;
-    auto picture = readPicture(relativePath, whyNot);
-    if (!picture) fatalFileError(QString::fromStdString(relativePath), whyNot);
-    return *picture;
+QPixmap loadPicture(const std::string& relativePath, QSize boxPixels) {
+    const auto file = findGameFile(relativePath);
+    const QString shown = QString::fromStdString(relativePath);
+    if (!file) fatalFileError(shown, QStringLiteral("file not found"));
+    QString error;
+    QPixmap pixmap = cachedPicture(*file, boxPixels, &error);
+    if (pixmap.isNull()) fatalFileError(shown, error);
+    return pixmap;
 }
 
-std::optional<QPixmap> tryLoadPicture(const std::string& relativePath) {
-    QString whyNot;
-    return readPicture(relativePath, whyNot);
+std::optional<QPixmap> tryLoadPicture(const std::string& relativePath, QSize boxPixels) {
+    const auto file = findGameFile(relativePath);
+    if (!file) return std::nullopt;
+    QString error;
+    QPixmap pixmap = cachedPicture(*file, boxPixels, &error);
+    if (pixmap.isNull()) return std::nullopt;
+    return pixmap;
 }
 
 QCursor loadCursor(const std::string& relativePath) {

@@ -27,13 +27,18 @@ std::optional<QString> findGameFile(const std::string& relativePath);
 // The same below any folder.
 std::optional<QString> findFileBelow(const QString& folder, const std::string& relativePath);
 
-// A picture from a game path. A missing or unreadable file ends the program
-// after reporting it (fatalFileError). Pictures are cached by file.
-QPixmap loadPicture(const std::string& relativePath);
+// A picture from a game path, for a box of the given size in pixels (none:
+// the file's own size). The picture files are drawn at twice their box's
+// size so that they stay sharp on high-density screens; on a screen of
+// lower density the picture is decoded straight at the size it is shown,
+// which spares the decoding and the memory of pixels nobody sees. A missing
+// or unreadable file ends the program after reporting it (fatalFileError).
+// Pictures are cached by file and size.
+QPixmap loadPicture(const std::string& relativePath, QSize boxPixels = {});
 
 // The same for a picture the caller can do without: nullopt when the file is
 // missing or cannot be decoded, and nothing is reported.
-std::optional<QPixmap> tryLoadPicture(const std::string& relativePath);
+std::optional<QPixmap> tryLoadPicture(const std::string& relativePath, QSize boxPixels = {});
 
 // A pointer from a Windows cursor file (hot spot read from the file).
 // Missing or unreadable files end the program like pictures.

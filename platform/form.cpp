@@ -180,6 +180,10 @@ void Form::Show() {
     if (!isVisible()) tieToOwner();
     if (kind_ == FormKind::FullSize) lastFullSizeShown() = name_;
     show();
+    if (!fontsSettled_) {
+        settleFonts(*this);
+        fontsSettled_ = true;
+    }
     raise();
     if (!(windowFlags() & Qt::WindowDoesNotAcceptFocus)) activateWindow();
 }

@@ -87,6 +87,7 @@ class Form : public QWidget {
     QWidget* client_ = this;
     QColor back_;
     bool hasIcon_ = false;
+    bool fontsSettled_ = false;
     float left_ = 0, top_ = 0;  // twips as last written, so reads are exact
     std::function<Form*()> findOwner_;
     bool centred_ = false;

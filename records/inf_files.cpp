@@ -9,7 +9,10 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <istream>
+#include <iterator>
 #include <optional>
+#include <string_view>
 
 #include "records/latin1.h"
 
@@ -17,11 +20,45 @@ namespace records {
 
 namespace {
 
-// One line of a file, without its line end; false at the end of the file.
-bool readLine(std::istream& in, std::string& line) {
-    if (!std::getline(in, line, '\n')) return false;
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    return true;
+// The lines of a file's text, one by one, without their line ends.
+class Lines {
+  public:
+    explicit Lines(std::string_view text) : rest_(text) {}
+    // False at the end of the text.
+    bool next(std::string& line) {
+        if (rest_.empty()) return false;
+        const std::size_t end = rest_.find('\n');
+        line.assign(rest_.substr(0, end));
+        rest_ = end == std::string_view::npos ? std::string_view() : rest_.substr(end + 1);
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        return true;
+    }
+
+  private:
+    std::string_view rest_;
+};
+
+// The whole file, read with plain system calls: the files are a few hundred
+// bytes, and the title screen reads them before it is first shown, where the
+// C++ stream and locale machinery would cost more than the reading itself.
+// False when the file cannot be opened or a read fails; text then holds what
+// was read before the failure.
+bool readWholeFile(const std::string& path, std::string& text) {
+    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return false;
+    char buffer[4096];
+    ssize_t n = 0;
+    while ((n = ::read(fd, buffer, sizeof buffer)) != 0) {
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) break;
+        text.append(buffer, static_cast<std::size_t>(n));
+    }
+    ::close(fd);
+    return n == 0;
+}
+
+std::string wholeStream(std::istream& in) {
+    return std::string(std::istreambuf_iterator<char>(in), {});
 }
 
 // Where field f (0..89, file order) of highscore.inf lives in the tables: five
@@ -116,27 +153,34 @@ void appendLine(std::string& out, std::string_view line) {
 
 }  // namespace
 
-bool loadLastGame(std::istream& in, LastGame& options) {
+bool loadLastGameText(std::string_view text, LastGame& options) {
     std::int16_t* const fields[kLastGameFields] = {&options.playsound, &options.timerson,
                                                    &options.hidedesktop, &options.boardsize};
+    Lines lines(text);
     std::string line;
     for (std::int16_t* field : fields) {
-        if (!readLine(in, line)) return false;
+        if (!lines.next(line)) return false;
         *field = timeFromText(line);
     }
     return true;
 }
 
-bool loadLastGame(const std::string& path, LastGame& options) {
-    std::ifstream in(path, std::ios::binary);
-    return in && loadLastGame(in, options);
+bool loadLastGame(std::istream& in, LastGame& options) {
+    return loadLastGameText(wholeStream(in), options);
 }
 
-bool loadHighscores(std::istream& in, FastestTimes& tables) {
+bool loadLastGame(const std::string& path, LastGame& options) {
+    std::string text;
+    const bool whole = readWholeFile(path, text);
+    return loadLastGameText(text, options) && whole;
+}
+
+bool loadHighscoresText(std::string_view text, FastestTimes& tables) {
     tables.fieldsread = 0;
+    Lines lines(text);
     std::string line;
     for (int f = 0; f < kHighscoreFields; ++f) {
-        if (!readLine(in, line)) return false;
+        if (!lines.next(line)) return false;
         const Field at = highscoreField(f);
         if (at.isName) {
             tables.bestname[at.size][at.level][at.rank] = latin1ToUtf8(line);
@@ -148,13 +192,14 @@ bool loadHighscores(std::istream& in, FastestTimes& tables) {
     return true;
 }
 
+bool loadHighscores(std::istream& in, FastestTimes& tables) {
+    return loadHighscoresText(wholeStream(in), tables);
+}
+
 bool loadHighscores(const std::string& path, FastestTimes& tables) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
-        tables.fieldsread = 0;
-        return false;
-    }
-    return loadHighscores(in, tables);
+    std::string text;
+    const bool whole = readWholeFile(path, text);
+    return loadHighscoresText(text, tables) && whole;
 }
 
 bool loadBoth(const std::string& lastgamePath, const std::string& highscorePath, LastGame& options,

@@ -17,6 +17,7 @@
 #include <cstdint>
 #include <istream>
 #include <string>
+#include <string_view>
 
 #include "records/fastest_times.h"
 
@@ -41,12 +42,14 @@ struct LastGame {
 // keep the values they had. They return true only when every field was read
 // (a missing or unreadable file reads no field). Anything after the last
 // field is ignored.
+bool loadLastGameText(std::string_view text, LastGame& options);
 bool loadLastGame(std::istream& in, LastGame& options);
 bool loadLastGame(const std::string& path, LastGame& options);
 
 // Also sets tables.fieldsread to the number of fields taken (0..90). Nothing
 // else is checked: tables out of order, or names beside empty entries, are
 // kept as read.
+bool loadHighscoresText(std::string_view text, FastestTimes& tables);
 bool loadHighscores(std::istream& in, FastestTimes& tables);
 bool loadHighscores(const std::string& path, FastestTimes& tables);
 

@@ -13,7 +13,7 @@ namespace {
 // A picture the title screen can do without: a file that is missing or
 // cannot be decoded fails the start-up quietly instead of ending the game.
 bool loadOptionalPicture(platform::PictureBox& box, const std::string& path) {
-    const auto picture = platform::tryLoadPicture(path);
+    const auto picture = platform::tryLoadPicture(path, box.size());
     if (!picture) return false;
     box.setPicture(*picture);
     return true;

@@ -108,7 +108,7 @@ class BoardTests : public QObject {
     }
     static bool shows(const PictureBox& box, const std::string& file) {
         return !box.picture().isNull() &&
-               box.picture().cacheKey() == platform::loadPicture(file).cacheKey();
+               box.picture().cacheKey() == platform::loadPicture(file, box.size()).cacheKey();
     }
     // The colour of the region behind a cell, as laid out.
     static QColor regionColour(const Board& b, int cell) {
@@ -148,7 +148,8 @@ class BoardTests : public QObject {
     static bool showsCurrentSet(const Board& b) {
         const auto& set = board::catalogue(b.layout().boardsize).at(b.pictureset);
         for (int p = 0; p < cells(b); ++p) {
-            const QPixmap file = platform::loadPicture(set.symbolPath(p / b.layout().n + 1));
+            const QPixmap file =
+                platform::loadPicture(set.symbolPath(p / b.layout().n + 1), b.Image2(p).size());
             if (b.Image2(p).picture().cacheKey() != file.cacheKey()) return false;
         }
         return true;

@@ -131,6 +131,36 @@ class PlatformTests : public QObject {
         QCOMPARE(loadPicture("IMAGES\\dice\\one.jpg").size(), QSize(8, 8));
     }
 
+    // Files hold pictures at twice their box's size; on this screen (one pixel
+    // per pixel) they are decoded at the box's size, never enlarged.
+    void picturesAreDecodedForTheirBox() {
+        const QPixmap half = loadPicture("Images\\Dice\\One.jpg", QSize(4, 4));
+        QCOMPARE(half.size(), QSize(4, 4));
+        QCOMPARE(half.cacheKey(), loadPicture("images\\dice\\one.jpg", QSize(4, 4)).cacheKey());
+        QCOMPARE(loadPicture("Images\\Dice\\One.jpg", QSize(16, 16)).size(), QSize(8, 8));
+        QCOMPARE(loadPicture("Images\\Dice\\One.jpg").size(), QSize(8, 8));
+        QCOMPARE(half.toImage().pixelColor(1, 1).green(), 255);
+        QVERIFY(!tryLoadPicture("Images\\broken.jpg", QSize(4, 4)));
+        QVERIFY(!tryLoadPicture("Images\\nothere.jpg"));
+    }
+
+    // Controls keep the first face of their list that is installed; a list
+    // with no installed face is left to the font system.
+    void shownWindowsUseInstalledFaces() {
+        QWidget window;
+        Label substituted(&window), unknown(&window), plain(&window);
+        QFont font = designFont("No Such Face", 12, true);
+        font.setFamilies({"No Such Face", "DejaVu Sans", "Liberation Sans"});
+        substituted.setFont(font);
+        font.setFamilies({"No Such Face", "Nor This One"});
+        unknown.setFont(font);
+        settleFonts(window);
+        QCOMPARE(substituted.font().families(), QStringList{"DejaVu Sans"});
+        QVERIFY(substituted.font().bold());
+        QCOMPARE(unknown.font().families(), (QStringList{"No Such Face", "Nor This One"}));
+        QVERIFY(!plain.testAttribute(Qt::WA_SetFont));
+    }
+
     void unreadablePicturesEndTheGameNamingTheFile() {
         for (const char* path : {"Images\\nothere.jpg", "Images\\broken.jpg"}) {
             try {

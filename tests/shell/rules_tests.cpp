@@ -32,7 +32,7 @@ void openRules() {
 // The picture box shows exactly the picture of that file.
 bool shows(const platform::PictureBox& box, const char* file) {
     return !box.picture().isNull() &&
-           box.picture().cacheKey() == platform::loadPicture(file).cacheKey();
+           box.picture().cacheKey() == platform::loadPicture(file, box.size()).cacheKey();
 }
 
 void checkPage(int page) {
