@@ -68,17 +68,25 @@ desktop_start() {
     trap 'desktop_status=$?; desktop_stop; (exit $desktop_status); cleanup' EXIT
     if [[ -n $desktop_wm ]]; then
         desktop_need "$desktop_wm" xprop xwininfo wmctrl
-        case $desktop_wm in
-            openbox) openbox --sm-disable >"$out/wm.log" 2>&1 & ;;
-            # Its settings come over D-Bus, so it gets a session bus of its own.
-            xfwm4) dbus-run-session -- xfwm4 --compositor=off --sm-client-disable \
-                >"$out/wm.log" 2>&1 & ;;
-            *) fail "unknown window manager $desktop_wm" ;;
-        esac
-        local _
-        for _ in $(seq 100); do
+        # A window manager that gives up at once on a busy machine (it could
+        # not open the display) gets two more tries.
+        local _ try
+        : >"$out/wm.log"
+        for try in 1 2 3; do
+            case $desktop_wm in
+                openbox) openbox --sm-disable >>"$out/wm.log" 2>&1 & ;;
+                # Its settings come over D-Bus, so it gets a session bus of its own.
+                xfwm4) dbus-run-session -- xfwm4 --compositor=off --sm-client-disable \
+                    >>"$out/wm.log" 2>&1 & ;;
+                *) fail "unknown window manager $desktop_wm" ;;
+            esac
+            for _ in $(seq 100); do
+                wmctrl -m >/dev/null 2>&1 && break
+                sleep 0.1
+            done
             wmctrl -m >/dev/null 2>&1 && break
-            sleep 0.1
+            echo "$desktop_wm did not start (try $try)"
+            sleep 1
         done
         wmctrl -m >/dev/null 2>&1 || fail "$desktop_wm did not start"
         echo "window manager: $(wmctrl -m | awk -F': ' '/^Name/ { print $2 }')"
