@@ -15,6 +15,7 @@
 # window with one line of text, shows what drawing any text costs on top.
 # BENCH_DIR names the folder holding startup and bare_window (build/bench).
 set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/../tests/e2e/free_display.sh"
 root=$(cd "$(dirname "$0")/.." && pwd)
 rounds=15
 if [[ ${1:-} == -n ]]; then
@@ -48,14 +49,7 @@ cleanup() {
 }
 trap cleanup EXIT
 
-display=""
-for n in $(seq 161 230); do
-    if [[ ! -e /tmp/.X11-unix/X$n && ! -e /tmp/.X$n-lock ]]; then
-        display=":$n"
-        break
-    fi
-done
-[[ -n $display ]] || { echo "no free X display" >&2; exit 1; }
+display=$(free_display 161 230) || { echo "no free X display" >&2; exit 1; }
 Xvfb "$display" -screen 0 1280x1024x24 -nolisten tcp >"$out/xvfb.log" 2>&1 &
 xvfb_pid=$!
 export DISPLAY=$display QT_QPA_PLATFORM=xcb

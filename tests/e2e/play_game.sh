@@ -10,6 +10,7 @@
 # pimbalo_e2e is the game plus a hook that writes e2e_state.txt: where each
 # shown screen lies and, on a board, which drags solve the puzzle.
 set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/free_display.sh"
 
 game_exe=$1
 game_dir=$2
@@ -54,14 +55,7 @@ fail() {
 }
 
 # --- a virtual screen of 1280 x 1024 pixels, no window manager -------------
-display=""
-for n in $(seq 91 160); do
-    if [[ ! -e /tmp/.X11-unix/X$n && ! -e /tmp/.X$n-lock ]]; then
-        display=":$n"
-        break
-    fi
-done
-[[ -n $display ]] || fail "no free X display"
+display=$(free_display 91 160) || fail "no free X display"
 Xvfb "$display" -screen 0 1280x1024x24 -nolisten tcp >"$out/xvfb.log" 2>&1 &
 xvfb_pid=$!
 export DISPLAY=$display

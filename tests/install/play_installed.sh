@@ -10,6 +10,7 @@
 # 2. A second start must read them back: the options screen shows them.
 # 3. Nothing under the installed root may change.
 set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/../e2e/free_display.sh"
 
 root=$1 program=$2 data=$3 preload=$4 play_game=$5 out=$6
 here=$(cd "$(dirname "$0")" && pwd)
@@ -81,14 +82,7 @@ cmp "$out/highscore.inf" "$folder/highscore.inf" || fail "highscore.inf differs"
 cp "$folder"/*.inf "$base/"
 
 # --- 2. a second start reads them back -------------------------------------------
-display=""
-for n in $(seq 161 230); do
-    if [[ ! -e /tmp/.X11-unix/X$n && ! -e /tmp/.X$n-lock ]]; then
-        display=":$n"
-        break
-    fi
-done
-[[ -n $display ]] || fail "no free X display"
+display=$(free_display 161 230) || fail "no free X display"
 as_player Xvfb "$display" -screen 0 1280x1024x24 -nolisten tcp -ac >"$out/xvfb2.log" 2>&1 &
 xvfb_pid=$!
 export DISPLAY=$display
