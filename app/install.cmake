@@ -2,6 +2,7 @@
 # The menu entry, AppStream metadata and manual page are filled at install
 # time, so that they name the program and data where they really land.
 install(TARGETS pimbalo RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(TARGETS pimbalo_sound LIBRARY DESTINATION "${PIMBALO_INSTALL_MODULEDIR}")
 install(DIRECTORY "${PIMBALO_GAME_DIR}/Images" "${PIMBALO_GAME_DIR}/wav" "${PIMBALO_GAME_DIR}/icons"
         DESTINATION "${PIMBALO_INSTALL_DATADIR}")
 install(DIRECTORY "${PIMBALO_GAME_DIR}/icons/hicolor" DESTINATION "${CMAKE_INSTALL_DATADIR}/icons")

@@ -6,6 +6,7 @@
 #include "board/register.h"
 #include "platform/display_server.h"
 #include "platform/form.h"
+#include "platform/sound.h"
 #include "records/highscores.h"
 #include "shell/register.h"
 #include "shell/titlefrm.h"
@@ -17,7 +18,9 @@ int main(int argc, char* argv[]) {
     // Screens come and go (the title screen is unloaded before the options
     // screen's "Exit" brings it back); only "Exit" ends the game.
     QApplication::setQuitOnLastWindowClosed(false);
-    app::settle(app::surroundings());
+    const app::Surroundings around = app::surroundings();
+    app::settle(around);
+    platform::setSoundModule(app::soundModule(around));
     QApplication::setWindowIcon(app::gameIcon());
 
     shell::registerScreens();

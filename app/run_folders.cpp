@@ -43,7 +43,8 @@ Surroundings surroundings() {
     // the installed tree may be moved or unpacked under any prefix.
     return {QDir::currentPath(), QCoreApplication::applicationDirPath(),
             QStringLiteral(PIMBALO_DATA_FROM_PROGRAM),
-            data.isEmpty() ? QString() : clean(data + QStringLiteral("/pimbalo"))};
+            data.isEmpty() ? QString() : clean(data + QStringLiteral("/pimbalo")),
+            QStringLiteral(PIMBALO_MODULES_FROM_PROGRAM)};
 }
 
 RunFolders chooseRunFolders(const Surroundings& around) {
@@ -66,6 +67,16 @@ RunFolders settle(const Surroundings& around) {
         !folders.work.isEmpty() && QDir().mkpath(folders.work) && QDir::setCurrent(folders.work);
     if (!entered) folders.work = enterVanishedFolder();
     return folders;
+}
+
+QString soundModule(const Surroundings& around) {
+    const QString name = QStringLiteral(PIMBALO_SOUND_MODULE_NAME);
+    for (const QString& folder : {around.programFolder + QLatin1Char('/') + around.installedModules,
+                                  around.programFolder}) {
+        const QString file = clean(folder + QLatin1Char('/') + name);
+        if (QFileInfo(file).isFile()) return file;
+    }
+    return {};
 }
 
 }  // namespace app

@@ -14,10 +14,11 @@
 namespace app {
 
 struct Surroundings {
-    QString startFolder;    // the working directory the game was started in
-    QString programFolder;  // the folder of the executable
-    QString installedData;  // an installed copy's data folder, relative to programFolder
-    QString playerFolder;   // the player's own folder for the two files
+    QString startFolder;       // the working directory the game was started in
+    QString programFolder;     // the folder of the executable
+    QString installedData;     // an installed copy's data folder, relative to programFolder
+    QString playerFolder;      // the player's own folder for the two files
+    QString installedModules;  // an installed copy's sound module folder, relative to programFolder
 };
 
 struct RunFolders {
@@ -42,5 +43,10 @@ RunFolders chooseRunFolders(const Surroundings& around);
 // still plays but keeps nothing: see the definition. Returns what is in use;
 // `work` is empty when no working folder could be had.
 RunFolders settle(const Surroundings& around);
+
+// The sound module this run loads at its first sound: an installed copy's,
+// else the one beside the program (the build tree). Empty when there is none,
+// and the game is silent.
+QString soundModule(const Surroundings& around);
 
 }  // namespace app

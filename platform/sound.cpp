@@ -1,13 +1,12 @@
 #include "platform/sound.h"
 
-#include <QAudioSink>
-#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
-#include <QMediaDevices>
+#include <QLibrary>
 #include <map>
 
 #include "platform/files.h"
+#include "platform/sound_output.h"
 #include "platform/wav_file.h"
 
 namespace platform {
@@ -31,17 +30,11 @@ const PcmSound& soundOf(const QString& file) {
     QFile f(file);
     PcmSound sound = f.open(QIODevice::ReadOnly) ? parseWav(f.readAll()) : PcmSound{};
     if (sound.playable()) {
-        const char silence = sound.format.sampleFormat() == QAudioFormat::UInt8 ? '\x80' : '\0';
-        sound.samples.append(
-            QByteArray(sound.format.bytesForDuration(kSilenceAfterMicroseconds), silence));
+        const bool unsigned8 = sound.format.sample == PcmFormat::Sample::UInt8;
+        sound.samples.append(QByteArray(sound.format.bytesFor(kSilenceAfterMicroseconds),
+                                        unsigned8 ? '\x80' : '\0'));
     }
     return sounds.emplace(file, std::move(sound)).first->second;
-}
-
-// The sound playing now, if any: a new one replaces it.
-QAudioSink*& playing() {
-    static QAudioSink* sink = nullptr;
-    return sink;
 }
 
 // The file handed to the player by the latest sound, empty after one that
@@ -51,15 +44,47 @@ QString& latestFile() {
     return file;
 }
 
+QString& moduleFile() {
+    static QString file;
+    return file;
+}
+
+// The sound module, loaded at the first sound: until then the game carries
+// none of the audio system. A module that is missing or will not load leaves
+// the game silent, like a machine without audio.
+struct Output {
+    decltype(&pimbaloPlaySound) play = nullptr;
+    decltype(&pimbaloStopSound) stop = nullptr;
+};
+
+Output& output() {
+    static Output o;
+    return o;
+}
+
+bool outputLoaded = false;
+
+const Output& loadedOutput() {
+    if (outputLoaded) return output();
+    outputLoaded = true;
+    if (moduleFile().isEmpty()) return output();
+    QLibrary module(moduleFile());
+    auto play = reinterpret_cast<decltype(&pimbaloPlaySound)>(module.resolve(PIMBALO_SOUND_PLAY));
+    auto stop = reinterpret_cast<decltype(&pimbaloStopSound)>(module.resolve(PIMBALO_SOUND_STOP));
+    if (play && stop) output() = {play, stop};
+    return output();
+}
+
 void stopPlaying() {
-    if (QAudioSink* sink = playing()) {
-        playing() = nullptr;
-        sink->stop();
-        sink->deleteLater();
-    }
+    // Nothing can be playing before the module is there.
+    if (outputLoaded && output().stop) output().stop();
 }
 
 }  // namespace
+
+void setSoundModule(const QString& file) {
+    moduleFile() = file;
+}
 
 QString latestSoundFile() {
     return latestFile();
@@ -80,19 +105,7 @@ void playSound(const std::string& relativePath) {
     const PcmSound& sound = soundOf(*file);
     if (!sound.playable()) return;
     latestFile() = QFileInfo(*file).absoluteFilePath();
-
-    auto* sink = new QAudioSink(QMediaDevices::defaultAudioOutput(), sound.format);
-    auto* source = new QBuffer(sink);
-    source->setData(sound.samples);
-    source->open(QIODevice::ReadOnly);
-    // Played out (or failed): the sink goes; nothing ever waits for it.
-    QObject::connect(sink, &QAudioSink::stateChanged, sink, [sink](QAudio::State state) {
-        if (state == QAudio::ActiveState || playing() != sink) return;
-        playing() = nullptr;
-        sink->deleteLater();
-    });
-    playing() = sink;
-    sink->start(source);
+    if (const Output& out = loadedOutput(); out.play) out.play(&sound);
 }
 
 }  // namespace platform

@@ -10,6 +10,11 @@ namespace platform {
 
 void playSound(const std::string& relativePath);
 
+// The sound module's file (a shared library holding the audio system). It is
+// loaded at the first sound; until this is set, or when it will not load,
+// every sound is silent.
+void setSoundModule(const QString& file);
+
 // Sees every sound the game asks for, played or not (tests listen here).
 void setSoundObserver(std::function<void(const std::string& path)> observer);
 

@@ -7,19 +7,44 @@ namespace platform {
 namespace {
 constexpr quint16 kPcm = 1, kFloat = 3;
 
-QAudioFormat::SampleFormat sampleFormat(quint16 encoding, quint16 bits) {
-    if (encoding == kPcm && bits == 8) return QAudioFormat::UInt8;
-    if (encoding == kPcm && bits == 16) return QAudioFormat::Int16;
-    if (encoding == kPcm && bits == 32) return QAudioFormat::Int32;
-    if (encoding == kFloat && bits == 32) return QAudioFormat::Float;
-    return QAudioFormat::Unknown;
+PcmFormat::Sample sampleOf(quint16 encoding, quint16 bits) {
+    using Sample = PcmFormat::Sample;
+    if (encoding == kPcm && bits == 8) return Sample::UInt8;
+    if (encoding == kPcm && bits == 16) return Sample::Int16;
+    if (encoding == kPcm && bits == 32) return Sample::Int32;
+    if (encoding == kFloat && bits == 32) return Sample::Float;
+    return Sample::Unknown;
+}
+
+int bytesPerSample(PcmFormat::Sample sample) {
+    switch (sample) {
+        case PcmFormat::Sample::UInt8:
+            return 1;
+        case PcmFormat::Sample::Int16:
+            return 2;
+        case PcmFormat::Sample::Int32:
+        case PcmFormat::Sample::Float:
+            return 4;
+        case PcmFormat::Sample::Unknown:
+            break;
+    }
+    return 0;
 }
 }  // namespace
+
+int PcmFormat::bytesPerFrame() const {
+    return channels * bytesPerSample(sample);
+}
+
+qsizetype PcmFormat::bytesFor(qint64 microseconds) const {
+    const qint64 frames = (qint64{sampleRate} * microseconds + 999999) / 1000000;
+    return static_cast<qsizetype>(frames * bytesPerFrame());
+}
 
 PcmSound parseWav(const QByteArray& bytes) {
     PcmSound sound;
     if (bytes.size() < 12 || !bytes.startsWith("RIFF") || bytes.mid(8, 4) != "WAVE") return sound;
-    QAudioFormat format;
+    PcmFormat format;
     QByteArray samples;
     qsizetype pos = 12;
     while (pos + 8 <= bytes.size()) {
@@ -30,16 +55,16 @@ PcmSound parseWav(const QByteArray& bytes) {
         const qsizetype available = qMin<qsizetype>(length, bytes.size() - body);
         const char* data = bytes.constData() + body;
         if (id == "fmt " && available >= 16) {
-            format.setChannelCount(qFromLittleEndian<quint16>(data + 2));
-            format.setSampleRate(static_cast<int>(qFromLittleEndian<quint32>(data + 4)));
-            format.setSampleFormat(sampleFormat(qFromLittleEndian<quint16>(data),
-                                                qFromLittleEndian<quint16>(data + 14)));
+            format.channels = qFromLittleEndian<quint16>(data + 2);
+            format.sampleRate = static_cast<int>(qFromLittleEndian<quint32>(data + 4));
+            format.sample =
+                sampleOf(qFromLittleEndian<quint16>(data), qFromLittleEndian<quint16>(data + 14));
         } else if (id == "data") {
             samples = bytes.mid(body, available);
         }
         pos = body + length + (length & 1);  // chunks are padded to even sizes
     }
-    if (!format.isValid()) return sound;
+    if (!format.valid()) return sound;
     // Whole frames only.
     samples.truncate(samples.size() - samples.size() % format.bytesPerFrame());
     sound.format = format;

@@ -60,7 +60,7 @@ class RunFoldersTests : public QObject {
         // Started in the game folder, or from elsewhere by its full path.
         for (const QString& start : {game, home}) {
             const app::RunFolders used =
-                app::settle({start, game, "../share/games/pimbalo", path("player")});
+                app::settle({start, game, "../share/games/pimbalo", path("player"), {}});
             QCOMPARE(used.data, game);
             QCOMPARE(used.work, game);
             QCOMPARE(QDir::currentPath(), game);
@@ -78,7 +78,7 @@ class RunFoldersTests : public QObject {
         const QString player = path("xdg data/pimbalo");
 
         const app::RunFolders used =
-            app::settle({elsewhere, path("prefix/games"), "../share/games/pimbalo", player});
+            app::settle({elsewhere, path("prefix/games"), "../share/games/pimbalo", player, {}});
         QCOMPARE(used.data, data);
         QCOMPARE(used.work, player);
         QCOMPARE(QDir::currentPath(), QDir(player).canonicalPath());
@@ -94,9 +94,11 @@ class RunFoldersTests : public QObject {
         writeFile(path("not a folder"));  // where $XDG_DATA_HOME should be
         QDir::setCurrent(path("prefix"));
 
-        const app::RunFolders used =
-            app::settle({path("prefix"), path("prefix/games"), "../share/games/pimbalo",
-                         path("not a folder/pimbalo")});
+        const app::RunFolders used = app::settle({path("prefix"),
+                                                  path("prefix/games"),
+                                                  "../share/games/pimbalo",
+                                                  path("not a folder/pimbalo"),
+                                                  {}});
         QCOMPARE(used.data, data);
         QVERIFY(used.work.isEmpty());
         QVERIFY(platform::findGameFile("Images\\pimbalo.jpg"));
@@ -109,9 +111,25 @@ class RunFoldersTests : public QObject {
         QDir().mkpath(path("somewhere/images"));
         const QString start = QDir(path("somewhere")).canonicalPath();
         const app::RunFolders used =
-            app::settle({start, path("bin"), "../share/games/pimbalo", path("player")});
+            app::settle({start, path("bin"), "../share/games/pimbalo", path("player"), {}});
         QCOMPARE(used.work, start);
         QCOMPARE(QDir::currentPath(), start);
+    }
+
+    // The installed copy's sound module wins over a stray one beside the
+    // program; the build tree's sits beside it; without one the game is silent.
+    void theSoundModuleIsTheInstalledOneElseTheOneBesideTheProgram() {
+        const QString name = QStringLiteral(PIMBALO_SOUND_MODULE_NAME);
+        app::Surroundings around{path("start"), path("prefix/games"), "../share/games/pimbalo",
+                                 path("player"), "../lib/pimbalo"};
+        QCOMPARE(app::soundModule(around), QString());
+        writeFile(path("prefix/games/") + name);
+        QCOMPARE(app::soundModule(around), path("prefix/games/") + name);
+        QDir().mkpath(path("prefix/lib/pimbalo/") + name);  // a folder is not a module
+        QCOMPARE(app::soundModule(around), path("prefix/games/") + name);
+        QDir(path("prefix/lib/pimbalo/") + name).removeRecursively();
+        writeFile(path("prefix/lib/pimbalo/") + name);
+        QCOMPARE(app::soundModule(around), path("prefix/lib/pimbalo/") + name);
     }
 };
 

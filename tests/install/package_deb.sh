@@ -28,7 +28,7 @@ debs=("$out"/pimbalo_*.deb)
 deb=${debs[0]}
 
 listing=$(dpkg-deb -c "$deb" | awk '{ print $6 }')
-for file in ./usr/games/pimbalo \
+for file in ./usr/games/pimbalo ./usr/lib/pimbalo/pimbalo-sound.so \
     ./usr/share/games/pimbalo/Images/pimbalo.jpg \
     ./usr/share/games/pimbalo/Images/H_POINT.cur \
     ./usr/share/games/pimbalo/wav/click.wav \
@@ -54,6 +54,11 @@ done
 # Filled for where the package puts things, not for the build's own prefix.
 unpacked="$out/unpacked"
 dpkg-deb -x "$deb" "$unpacked"
+# The audio system comes with the sound module, at the first sound, and not
+# with the program (the package still depends on it through the module).
+if objdump -p "$unpacked/usr/games/pimbalo" | grep -q 'NEEDED.*Multimedia'; then
+    fail "the program itself loads Qt Multimedia at start-up"
+fi
 grep -qx "Exec=/usr/games/pimbalo" "$unpacked/usr/share/applications/$id.desktop" ||
     fail "the menu entry does not start /usr/games/pimbalo"
 zcat "$unpacked/usr/share/man/man6/pimbalo.6.gz" | grep -q '^\.I /usr/share/games/pimbalo$' ||
