@@ -10,8 +10,9 @@ namespace app {
 // ("pimbalo", "Pimbalo") and Wayland id. Call before the first window exists.
 void setDesktopIdentity();
 
-// The icon drawn at build time, every size found below the data folder; an
-// empty icon when there is none (the window manager then shows its own).
+// The icon drawn at build time, in the sizes window managers draw, as found
+// below the data folder; an empty icon when there is none (the window
+// manager then shows its own).
 QIcon gameIcon();
 
 }  // namespace app

@@ -79,8 +79,10 @@ run_one() {  # index executable round
         line=$(cd "$dir" && "$bench_dir/startup" -- "$exe" "${text[@]}" 2>>"$out/program$k.log") ||
             true
     else
-        ln -s "$(dirname "$exe")/Images" "$dir/Images"
-        ln -s "$(dirname "$exe")/wav" "$dir/wav"
+        local folder
+        for folder in Images wav icons; do  # icons: the window icon, as a real game has it
+            [[ -e $(dirname "$exe")/$folder ]] && ln -s "$(dirname "$exe")/$folder" "$dir/$folder"
+        done
         write_saved_files "$dir" "$size"
         line=$(cd "$dir" && "$bench_dir/startup" --ok $ok_at --level $level_at -- "$exe" 2>>"$out/program$k.log") || true
     fi
