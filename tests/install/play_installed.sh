@@ -40,8 +40,14 @@ fi
 
 base=$(mktemp -d)
 xvfb_pid="" game_pid=""
+# runuser passes no signal on: programs run as the player are stopped by
+# their own pids, which they write into the player's runtime folder.
+own_pid() { cat "$base/runtime/$1.pid" 2>/dev/null; }
 cleanup() {
-    local status=$?
+    local status=$? name
+    for name in game xvfb; do
+        [[ -n $(own_pid $name) ]] && kill "$(own_pid $name)" 2>/dev/null
+    done
     [[ -n $game_pid ]] && kill "$game_pid" 2>/dev/null
     [[ -n $xvfb_pid ]] && kill "$xvfb_pid" 2>/dev/null
     wait 2>/dev/null
@@ -83,7 +89,8 @@ cp "$folder"/*.inf "$base/"
 
 # --- 2. a second start reads them back -------------------------------------------
 display=$(free_display 161 230) || fail "no free X display"
-as_player Xvfb "$display" -screen 0 1280x1024x24 -nolisten tcp -ac >"$out/xvfb2.log" 2>&1 &
+as_player sh -c 'echo $$ >"$0"; exec Xvfb "$@"' "$base/runtime/xvfb.pid" \
+    "$display" -screen 0 1280x1024x24 -nolisten tcp -ac >"$out/xvfb2.log" 2>&1 &
 xvfb_pid=$!
 export DISPLAY=$display
 for _ in $(seq 100); do
@@ -92,9 +99,9 @@ for _ in $(seq 100); do
 done
 
 state="$base/screens/state.txt"
-as_player "${player_env[@]}" sh -c 'cd "$PIMBALO_START_DIR" &&
+as_player "${player_env[@]}" sh -c 'echo $$ >"$1"; cd "$PIMBALO_START_DIR" &&
     QT_QPA_PLATFORM=xcb PIMBALO_E2E_STATE="$0" LD_PRELOAD="$PIMBALO_PRELOAD" \
-    exec "$PIMBALO_PROGRAM"' "$state" >"$out/game2.log" 2>&1 &
+    exec "$PIMBALO_PROGRAM"' "$state" "$base/runtime/game.pid" >"$out/game2.log" 2>&1 &
 game_pid=$!
 
 # The origin "x y" of a shown screen, once it is shown.
@@ -117,9 +124,10 @@ import -window root "$out/second-start-options.png"
 for option in "Timers On" "Play Sound" "4x4"; do
     grep -qx "button 1 $option" "$state" || fail "the options screen does not show \"$option\" set"
 done
-kill "$game_pid"  # closing any other way than a board's "Exit" saves nothing
+kill "$(own_pid game)"  # closing any other way than a board's "Exit" saves nothing
 wait "$game_pid" 2>/dev/null || true
 game_pid=""
+rm -f "$base/runtime/game.pid"
 
 cmp "$base/lastgame.inf" "$folder/lastgame.inf" && cmp "$base/highscore.inf" "$folder/highscore.inf" ||
     fail "the second start changed the saved files"
