@@ -64,8 +64,10 @@ now_ms() {
 # XDG_RUNTIME_DIR set, before the game starts.
 desktop_start() {
     [[ -n $desktop_wm$desktop_sound ]] || return 0
-    # Ours go first, then play_game.sh's own clean-up with the same status.
-    trap 'desktop_status=$?; desktop_stop; (exit $desktop_status); cleanup' EXIT
+    # Ours go first, then play_game.sh's own clean-up with the same status
+    # (without errexit, which would end the shell at a failed status there and
+    # leave the X server and window manager running).
+    trap 'desktop_status=$?; desktop_stop; set +e; (exit $desktop_status); cleanup' EXIT
     if [[ -n $desktop_wm ]]; then
         desktop_need "$desktop_wm" xprop xwininfo wmctrl
         # A window manager that gives up at once on a busy machine (it could
