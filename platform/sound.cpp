@@ -84,6 +84,7 @@ void stopPlaying() {
 
 void setSoundModule(const QString& file) {
     moduleFile() = file;
+    if (!output().play) outputLoaded = false;  // a module named late is still tried
 }
 
 QString latestSoundFile() {
