@@ -44,15 +44,12 @@ QString& latestFile() {
     return file;
 }
 
-QString& moduleFile() {
-    static QString file;
-    return file;
-}
-
 // The sound module, loaded at the first sound: until then the game carries
 // none of the audio system. A module that is missing or will not load leaves
 // the game silent, like a machine without audio.
 struct Output {
+    QString file;
+    bool tried = false;
     decltype(&pimbaloPlaySound) play = nullptr;
     decltype(&pimbaloStopSound) stop = nullptr;
 };
@@ -62,29 +59,31 @@ Output& output() {
     return o;
 }
 
-bool outputLoaded = false;
-
 const Output& loadedOutput() {
-    if (outputLoaded) return output();
-    outputLoaded = true;
-    if (moduleFile().isEmpty()) return output();
-    QLibrary module(moduleFile());
+    Output& o = output();
+    if (o.tried) return o;
+    o.tried = true;
+    if (o.file.isEmpty()) return o;
+    QLibrary module(o.file);
     auto play = reinterpret_cast<decltype(&pimbaloPlaySound)>(module.resolve(PIMBALO_SOUND_PLAY));
     auto stop = reinterpret_cast<decltype(&pimbaloStopSound)>(module.resolve(PIMBALO_SOUND_STOP));
-    if (play && stop) output() = {play, stop};
-    return output();
+    if (play && stop) {
+        o.play = play;
+        o.stop = stop;
+    }
+    return o;
 }
 
 void stopPlaying() {
-    // Nothing can be playing before the module is there.
-    if (outputLoaded && output().stop) output().stop();
+    if (output().stop) output().stop();  // nothing plays before the module is there
 }
 
 }  // namespace
 
 void setSoundModule(const QString& file) {
-    moduleFile() = file;
-    if (!output().play) outputLoaded = false;  // a module named late is still tried
+    Output& o = output();
+    o.file = file;
+    if (!o.play) o.tried = false;  // a module named late is still tried
 }
 
 QString latestSoundFile() {

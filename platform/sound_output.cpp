@@ -7,27 +7,16 @@
 
 namespace {
 
+// Qt's sample formats in the order of PcmFormat::Sample.
+constexpr QAudioFormat::SampleFormat kQtSample[] = {QAudioFormat::Unknown, QAudioFormat::UInt8,
+                                                    QAudioFormat::Int16, QAudioFormat::Int32,
+                                                    QAudioFormat::Float};
+
 QAudioFormat audioFormatOf(const platform::PcmFormat& pcm) {
-    using Sample = platform::PcmFormat::Sample;
     QAudioFormat format;
     format.setSampleRate(pcm.sampleRate);
     format.setChannelCount(pcm.channels);
-    switch (pcm.sample) {
-        case Sample::UInt8:
-            format.setSampleFormat(QAudioFormat::UInt8);
-            break;
-        case Sample::Int16:
-            format.setSampleFormat(QAudioFormat::Int16);
-            break;
-        case Sample::Int32:
-            format.setSampleFormat(QAudioFormat::Int32);
-            break;
-        case Sample::Float:
-            format.setSampleFormat(QAudioFormat::Float);
-            break;
-        case Sample::Unknown:
-            break;
-    }
+    format.setSampleFormat(kQtSample[static_cast<int>(pcm.sample)]);
     return format;
 }
 

@@ -16,24 +16,12 @@ PcmFormat::Sample sampleOf(quint16 encoding, quint16 bits) {
     return Sample::Unknown;
 }
 
-int bytesPerSample(PcmFormat::Sample sample) {
-    switch (sample) {
-        case PcmFormat::Sample::UInt8:
-            return 1;
-        case PcmFormat::Sample::Int16:
-            return 2;
-        case PcmFormat::Sample::Int32:
-        case PcmFormat::Sample::Float:
-            return 4;
-        case PcmFormat::Sample::Unknown:
-            break;
-    }
-    return 0;
-}
+// Bytes per sample in the order of PcmFormat::Sample.
+constexpr int kBytesPerSample[] = {0, 1, 2, 4, 4};
 }  // namespace
 
 int PcmFormat::bytesPerFrame() const {
-    return channels * bytesPerSample(sample);
+    return channels * kBytesPerSample[static_cast<int>(sample)];
 }
 
 qsizetype PcmFormat::bytesFor(qint64 microseconds) const {

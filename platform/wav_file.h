@@ -7,7 +7,7 @@
 namespace platform {
 
 struct PcmFormat {
-    enum class Sample { Unknown, UInt8, Int16, Int32, Float };
+    enum class Sample { Unknown, UInt8, Int16, Int32, Float };  // tables follow this order
     int sampleRate = 0;
     int channels = 0;
     Sample sample = Sample::Unknown;
