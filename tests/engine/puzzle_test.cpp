@@ -1,6 +1,7 @@
 // Making a puzzle: the solution, the given cells and the random draws behind them.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 #include "fake_board.h"
@@ -84,6 +85,51 @@ TEST(Setup, SolutionAndGivensFollowTheDrawnMovesAndTheLevel) {
         EXPECT_EQ(board.caption(Lab::Label2_1), "0");
         EXPECT_TRUE(board.timers[Tmr::Timer1] && board.shown[Lab::Label2_0] &&
                     board.shown[Lab::Label2_1] && board.shown[Lab::Label2_2]);
+    }
+}
+
+// How many cells a puzzle gives: the forced pattern always, and each start
+// value from base + 1 up to the level's cut-off that the shuffle leaves off
+// the pattern. Here the shuffle's last pass puts all those values on the
+// pattern (the fewest givens) or off it (the most); the rest swap nothing.
+TEST(Setup, GivenCountsRunFromTheForcedCellsToTheLevelsCutOff) {
+    struct Size {
+        int size, base;
+        std::vector<int> forced;  // pattern 0's entries
+        std::vector<double> moves;
+        std::pair<int, int> counts[3];  // fewest and most givens at levels 0, 1 and 2
+    };
+    const Size sizes[] = {
+        {0, 6, {2, 4, 7, 10, 12, 13}, {0, 0, 0}, {{6, 10}, {6, 8}, {6, 6}}},
+        {1, 10, {2, 5, 7, 8, 10, 12, 18, 21, 23, 24}, {0, 0}, {{10, 16}, {10, 13}, {10, 10}}},
+        {2,
+         14,
+         {2, 5, 8, 10, 12, 15, 16, 21, 22, 25, 27, 29, 32, 35},
+         {0, 0, 0, 0, 0, 0},
+         {{14, 24}, {14, 19}, {14, 14}}},
+    };
+    for (const Size& s : sizes) {
+        const int n = 4 + s.size, cells = n * n;
+        for (std::int16_t level = 0; level < 3; ++level) {
+            const auto [fewest, most] = s.counts[level];
+            const int qualifying = int(most - fewest);  // values base + 1 to the cut-off
+            for (const bool ontoPattern : {true, false}) {
+                std::vector<int> targets;
+                for (int m = qualifying + 1; m <= cells; ++m) {
+                    const bool forced = std::count(s.forced.begin(), s.forced.end(), m) > 0;
+                    if (forced == ontoPattern) targets.push_back(m);
+                }
+                std::vector<double> shuffle = unshuffled(cells);
+                for (int m = 1; m <= qualifying; ++m)  // entry m holds base + m: swap it away
+                    shuffle[99 * cells + m - 1] = (targets.at(m - 1) - 0.5) / cells;
+                if (s.size < 2) shuffle.push_back(0);  // pattern 0
+                FakeBoard board(s.size, unshuffled(n) + s.moves + shuffle);
+                board.game.setsolution();
+                board.game.setstart({level, 0, 0});
+                EXPECT_EQ(board.game.coveredCells(), ontoPattern ? fewest : most)
+                    << n << "x" << n << " level " << level;
+            }
+        }
     }
 }
 
