@@ -11,6 +11,7 @@ class Timer {
     Timer(QObject* owner, int intervalMs);
     void setEnabled(bool on);
     bool Enabled() const { return timer_->isActive(); }
+    int Interval() const { return timer_->interval(); }  // milliseconds
     // Runs the handler once, as a tick would (tests use this to skip waiting).
     void tick() {
         if (onTimer) onTimer();

@@ -100,6 +100,28 @@ TEST(Check, ClockWrapsAfter9999AndACorrectGridStopsItAndRanksTheTime) {
     EXPECT_EQ(board.highscoreChecks, 1);
 }
 
+// An on/off option is on only when it holds 1; a 2 (from a hand-edited
+// file) keeps the game silent and the clock off. Only the banner differs: it
+// tells a time for anything but 0, though no time is ranked.
+TEST(Options, OnlyOneSwitchesAnOptionOn) {
+    const Options two{0, 2, 2};
+    FakeBoard board(0);
+    board.game.setsolution();
+    board.game.seconds = 7;
+    board.setCaption(Lab::Label2_1, "7");
+    board.game.setstart(two);
+    EXPECT_EQ(board.game.seconds, 7);
+    EXPECT_TRUE(board.timers.empty() && board.shown.empty());
+
+    board.game.showsoln();
+    board.game.pieceMouseUp(0, two);  // a drop that fills the grid
+    EXPECT_TRUE(board.timers[Tmr::Timer2]);
+    board.game.timer2Tick(two);
+    EXPECT_EQ(board.caption(Lab::Label7), "Correct in 7 seconds!!!");
+    EXPECT_EQ(board.highscoreChecks, 0);
+    EXPECT_TRUE(board.sounds.empty());
+}
+
 TEST(Commands, ShowSolutionCheckAndStartAgain) {
     const Options sound{0, 1, 0};
     for (int size = 0; size < 3; ++size) {

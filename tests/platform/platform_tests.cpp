@@ -13,6 +13,7 @@
 #include "platform/files.h"
 #include "platform/form.h"
 #include "platform/sound.h"
+#include "platform/timer.h"
 #include "platform/wav_file.h"
 #include "shell/common.h"
 
@@ -353,6 +354,25 @@ class PlatformTests : public QObject {
         QVERIFY(!parseWav(wav(chunk("fmt ", fmt(2, 1, 4)) + chunk("data", "ab"))).playable());
         QVERIFY(!parseWav(wav(chunk("data", "ab"))).playable());
         QVERIFY(!parseWav("RIFF").playable());
+    }
+
+    // Switching on a timer that runs already keeps its next tick where it
+    // was; only a timer switched off starts its interval afresh.
+    void reenablingARunningTimerKeepsItsNextTick() {
+        QObject owner;
+        Timer timer(&owner, 1000);
+        const QTimer* clock = owner.findChild<QTimer*>();
+        QVERIFY(clock);
+        timer.setEnabled(true);
+        QTRY_VERIFY(clock->remainingTime() < 900);
+        const int left = clock->remainingTime();
+        timer.setEnabled(true);
+        QVERIFY(timer.Enabled() && clock->remainingTime() <= left);
+        timer.setEnabled(false);
+        QVERIFY(!timer.Enabled());
+        timer.setEnabled(true);
+        QVERIFY(clock->remainingTime() > left);
+        QCOMPARE(timer.Interval(), 1000);
     }
 
     // The player (the real sound module, loaded here) is handed the file,

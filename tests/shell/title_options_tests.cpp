@@ -199,6 +199,31 @@ class TitleAndOptionsTests : public ScreenTest {
         QCOMPARE(sounds, Sounds(3, "wav\\click1.wav"));
     }
 
+    // The three boxes are ticked only by a 1. Values of 2 (a hand-edited
+    // lastgame.inf) show clear, so the boxes ticked in the design react:
+    // "Play Sound" and "Hide Desktop" go to 0, the backdrop goes away, and
+    // nothing clicks, since sound was not 1.
+    void twoCountsAsOff() {
+        auto& shared = shell::module1();
+        arriveFromTitle("2\r\n2\r\n2\r\n0\r\n");
+        QVERIFY(sounds.empty());  // the title screen clicks after this start-up: sound is 0 by then
+        QCOMPARE(shared.playsound, 0);
+        QCOMPARE(shared.timerson, 2);  // clear as designed: no reaction
+        QCOMPARE(options().Check1->Value(), 0);
+        QCOMPARE(options().Check2->Value(), 0);
+        QCOMPARE(options().Check3->Value(), 1);  // the title screen has set it to 1
+
+        // Back from a board, as its "Exit" does it.
+        platform::screens::unload(Startplay2::kName);
+        shared.playsound = 2;
+        shared.hidedesktop = 2;
+        platform::screens::show(Startplay2::kName);
+        QCOMPARE(shared.hidedesktop, 0);
+        QCOMPARE(options().Check3->Value(), 0);
+        QVERIFY(!isLoaded("Grey"));
+        QVERIFY(sounds.empty());
+    }
+
     void levelButtonsStartTheChosenSize() {
         const char* const saved = "1\r\n0\r\n1\r\n0\r\n";
         const char* const boards[] = {"jigsaw", "jigsaw5x5", "jigsaw6x6"};

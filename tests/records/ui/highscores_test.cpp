@@ -100,6 +100,7 @@ class HighscoresTests : public QObject {
         QCOMPARE(box.Top(), 1260.0f);  // over rank index 2
         QVERIFY(box.Visible() && !s.Text1(0).Visible() && !s.Text1(2).Visible());
         QVERIFY(s.Label1->Visible() && s.Timer1.Enabled() && s.isVisible());
+        QCOMPARE(s.Timer1.Interval(), 100);
 
         // Typing goes into the box at once, and into the table on a tick.
         QVERIFY(QTest::qWaitForWindowActive(&s));
