@@ -100,4 +100,15 @@ inline constexpr char kDesignTime[] = "88888";
 inline constexpr char kTypeYourName[] = "Type your name in the box";
 }  // namespace fastest_text
 
+// The message a picture or cursor file that cannot be loaded leaves as the
+// game ends: "%1" is the file, "%2" one of the reasons below or the
+// system's own.
+namespace error_text {
+inline constexpr char kTitle[] = "Pimbalo";
+inline constexpr char kCannotGoOn[] =
+    "Pimbalo cannot go on: the file \"%1\" could not be loaded (%2).";
+inline constexpr char kNotFound[] = "file not found";
+inline constexpr char kNotACursor[] = "not a cursor file";
+}  // namespace error_text
+
 }  // namespace tables
