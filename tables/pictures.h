@@ -73,6 +73,12 @@ inline constexpr ScreenPicture kMascot{"Images\\logo2.jpg", 1500, 2085};
 // The boards' logo (its place is in the board geometry).
 inline constexpr ScreenPicture kBoardLogo{"Images\\pimbalo4.jpg", 2220, 840};
 
+// Every screen picture above, for whoever must make or check them all.
+inline constexpr const ScreenPicture* kScreenPictures[] = {
+    &kTitlePicture, &kOpeningPicture, &kTitleMascot, &kOptionsPicture,
+    &kRulesPicture, &kMascot,         &kBoardLogo,
+};
+
 // The rules screen's example of each board size: a puzzle and its solution.
 // The 6x6 pictures were redrawn once; their files carry a "2".
 struct RulesExample {

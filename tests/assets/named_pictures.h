@@ -34,10 +34,8 @@ inline std::vector<NamedPicture> picturesTheTablesName() {
              {tables::kRulesExamples[size].puzzle, tables::kRulesExamples[size].solution})
             add(example.path, example.width, example.height);
     }
-    for (const auto& picture :
-         {tables::kTitlePicture, tables::kOpeningPicture, tables::kTitleMascot,
-          tables::kOptionsPicture, tables::kRulesPicture, tables::kMascot, tables::kBoardLogo})
-        add(picture.path, picture.width, picture.height);
+    for (const tables::ScreenPicture* picture : tables::kScreenPictures)
+        add(picture->path, picture->width, picture->height);
     return all;
 }
 
