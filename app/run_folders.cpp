@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include "platform/files.h"
+#include "tables/pictures.h"
 
 namespace app {
 
@@ -34,7 +35,7 @@ QString enterVanishedFolder() {
 }  // namespace
 
 bool holdsGamePictures(const QString& folder) {
-    return platform::findFileBelow(folder, "Images\\pimbalo.jpg").has_value();
+    return platform::findFileBelow(folder, tables::kTitlePicture.path).has_value();
 }
 
 Surroundings surroundings() {

@@ -11,6 +11,8 @@
 #include "cursor.h"
 #include "glyphs.h"
 #include "pictures.h"
+#include "tables/geometry.h"
+#include "tables/pictures.h"
 
 namespace assets {
 
@@ -100,8 +102,7 @@ void drawOpening(QPainter& painter) {
     backdrop.setColorAt(0, QColor(255, 255, 255));
     backdrop.setColorAt(1, QColor(210, 228, 255));
     painter.fillRect(QRectF(0, 0, 100, 100), backdrop);
-    const QColor quarters[] = {bgrColor(0x00C00000), bgrColor(0x00C0C000), bgrColor(0x000080FF),
-                               bgrColor(0x0000C000)};
+    const auto& quarters = tables::boardGeometry(0).regions;
     const Shape shapes[] = {Shape::Polygon, Shape::Triangle, Shape::Star, Shape::Square};
     // A solved grid: rows, columns, diagonals and quarters all differ.
     const int grid[4][4] = {{0, 1, 2, 3}, {2, 3, 0, 1}, {3, 2, 1, 0}, {1, 0, 3, 2}};
@@ -122,7 +123,7 @@ void drawOpening(QPainter& painter) {
     for (int q = 0; q < 4; ++q) {
         painter.fillRect(
             QRectF(boardRect.left() + (q % 2) * half, boardRect.top() + (q / 2) * half, half, half),
-            quarters[q]);
+            bgrColor(quarters[q].colour));
     }
     for (int y = 0; y < 4; ++y) {
         for (int x = 0; x < 4; ++x) {
@@ -153,15 +154,15 @@ SquareDrawer mascotPanel(double logicalHeight) {
     };
 }
 
-PictureFile artFile(const QString& name, int twipsWide, int twipsHigh,
-                    std::function<SquareDrawer(double)> make, bool byWidth) {
-    const int w = jpegPixels(twipsWide);
-    const int h = jpegPixels(twipsHigh);
+PictureFile artFile(const tables::ScreenPicture& picture, std::function<SquareDrawer(double)> make,
+                    bool byWidth) {
+    const int w = tables::picturePixels(picture.width);
+    const int h = tables::picturePixels(picture.height);
     // Wide art uses a logical height of 100, tall art a logical width of 100.
     const double lw = byWidth ? 100.0 * w / h : 100.0;
     const double lh = byWidth ? 100.0 : 100.0 * h / w;
     const SquareDrawer draw = make(byWidth ? lw : lh);
-    return {"Images/" + name, w, h, [=] { return paintBox(w, h, lw, lh, draw); }};
+    return {gameFilePath(picture.path), w, h, [=] { return paintBox(w, h, lw, lh, draw); }};
 }
 
 }  // namespace
@@ -300,14 +301,14 @@ void drawMascot(QPainter& painter, const QRectF& box) {
 
 std::vector<PictureFile> artworkFiles() {
     return {
-        artFile("pimbalo.jpg", 6000, 2160, titleBanner, true),
-        artFile("pimbalo3.jpg", 4170, 1500, titleBanner, true),
-        artFile("pimbalo2.jpg", 4995, 1800, titleBanner, true),
-        artFile("pimbalo4.jpg", 2220, 840, boardLogo, true),
+        artFile(tables::kTitlePicture, titleBanner, true),
+        artFile(tables::kOptionsPicture, titleBanner, true),
+        artFile(tables::kRulesPicture, titleBanner, true),
+        artFile(tables::kBoardLogo, boardLogo, true),
         artFile(
-            "opening3.jpg", 3600, 3600, [](double) -> SquareDrawer { return drawOpening; }, false),
-        artFile("logo4.jpg", 1005, 1425, mascotPanel, false),
-        artFile("logo2.jpg", 1500, 2085, mascotPanel, false),
+            tables::kOpeningPicture, [](double) -> SquareDrawer { return drawOpening; }, false),
+        artFile(tables::kTitleMascot, mascotPanel, false),
+        artFile(tables::kMascot, mascotPanel, false),
     };
 }
 

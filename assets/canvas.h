@@ -11,12 +11,6 @@
 
 namespace assets {
 
-// Every picture is drawn at twice its control's pixel size (15 twips a pixel).
-constexpr int kTwipsPerPixel = 15;
-inline int jpegPixels(int twips) {
-    return 2 * twips / kTwipsPerPixel;
-}
-
 // A colour written &H00BBGGRR& (red in the low byte).
 QColor bgrColor(std::uint32_t bbggrr);
 

@@ -36,10 +36,11 @@ bool writeContactSheet(const QString& gameFolder, const QString& pngPath) {
         complete &= !image.isNull();
         entries.push_back({file.path, image});
     }
-    QImageReader cursor(game.filePath("Images/H_POINT.cur"), "cur");
+    const QString handPath = gameFilePath(tables::kHandCursor);
+    QImageReader cursor(game.filePath(handPath), "cur");
     const QImage hand = cursor.read();
     complete &= !hand.isNull();
-    entries.push_back({"Images/H_POINT.cur", hand});
+    entries.push_back({handPath, hand});
 
     const int box = 200;
     const int labelHeight = 30;

@@ -6,6 +6,7 @@
 
 #include "canvas.h"
 #include "pictures.h"
+#include "tables/geometry.h"
 
 namespace assets {
 
@@ -41,14 +42,13 @@ std::vector<Layer> iconLayers() {
     QPainterPath board;
     board.addRoundedRect(QRectF(7, 7, 86, 86), 14, 14);
     // The 4x4 board's quarter colours, each quarter with one shape.
-    const QColor quarters[] = {bgrColor(0x00C00000), bgrColor(0x00C0C000), bgrColor(0x000080FF),
-                               bgrColor(0x0000C000)};
+    const auto& quarters = tables::boardGeometry(0).regions;
     const Shape shapes[] = {Shape::Star, Shape::Triangle, Shape::Square, Shape::Polygon};
     for (int q = 0; q < 4; ++q) {
         const QPointF corner(7 + 43 * (q % 2), 7 + 43 * (q / 2));
         QPainterPath quarter;
         quarter.addRect(QRectF(corner, QSizeF(43, 43)));
-        layers.push_back(glossy(board.intersected(quarter), quarters[q], 0));
+        layers.push_back(glossy(board.intersected(quarter), bgrColor(quarters[q].colour), 0));
 
         QPainterPath tile;
         const QRectF tileBox(corner + QPointF(5, 5), QSizeF(33, 33));

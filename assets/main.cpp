@@ -47,7 +47,7 @@ int generate(const QString& folder) {
         }
     }
     const QByteArray cursor = assets::curFile(assets::handPointer(), assets::kHandHotSpot);
-    if (!writeBytes(game.filePath("Images/H_POINT.cur"), cursor)) ++failures;
+    if (!writeBytes(game.filePath(assets::gameFilePath(tables::kHandCursor)), cursor)) ++failures;
     for (const assets::Sound& sound : assets::gameSounds()) {
         const auto bytes = assets::wavFile(sound.samples);
         const QByteArray data(reinterpret_cast<const char*>(bytes.data()), int(bytes.size()));

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include "catalogue.h"
+#include "tables/geometry.h"
 
 namespace assets {
 
@@ -29,40 +30,34 @@ SquareDrawer marker(QColor colour) {
     };
 }
 
-struct MarkerStyle {
-    const char* name;
-    int twips;
-    std::uint32_t bbggrr;
-};
-
-// The 4x4 quarters and the 6x6 rectangles in the boards' region colours
-// (written &H00BBGGRR&), and the 5x5 board's own dark-blue marker.
-const MarkerStyle kMarkers[] = {
-    {"corner1.jpg", 240, 0x00C00000},    {"corner2.jpg", 240, 0x00C0C000},
-    {"corner3.jpg", 240, 0x000080FF},    {"corner4.jpg", 240, 0x0000C000},
-    {"corner6x61.jpg", 150, 0x000080FF}, {"corner6x62.jpg", 150, 0x00C0C000},
-    {"corner6x63.jpg", 150, 0x0000C000}, {"corner6x64.jpg", 150, 0x000000C0},
-    {"corner6x65.jpg", 150, 0x008080FF}, {"corner6x66.jpg", 150, 0x00C00000},
-    {"marker5x5.jpg", 240, 0x00C00000},
-};
+QString fileName(const std::string& path) {
+    return QFileInfo(gameFilePath(path)).fileName();
+}
 
 }  // namespace
 
+// Marker i of a board wears the colour of the board's region i (the 5x5
+// board's one marker that of the region behind its whole grid).
 SquareDrawer markerPicture(const std::string& path) {
-    const QString name = QFileInfo(QString::fromStdString(path).replace('\\', '/')).fileName();
-    for (const MarkerStyle& style : kMarkers)
-        if (name.compare(style.name, Qt::CaseInsensitive) == 0)
-            return marker(bgrColor(style.bbggrr));
+    for (int size = 0; size < tables::kBoardSizes; ++size) {
+        const tables::BoardGeometry& board = tables::boardGeometry(size);
+        for (int i = 0; i < board.markerPictures.size(); ++i)
+            if (fileName(board.markerPictures[i]).compare(fileName(path), Qt::CaseInsensitive) == 0)
+                return marker(bgrColor(board.regions[i].colour));
+    }
     return marker(Qt::gray);
 }
 
 std::vector<PictureFile> markerFiles() {
     std::vector<PictureFile> files;
-    for (const MarkerStyle& style : kMarkers) {
-        const int pixels = jpegPixels(style.twips);
-        const SquareDrawer draw = marker(bgrColor(style.bbggrr));
-        files.push_back({QString("Images/") + style.name, pixels, pixels,
-                         [pixels, draw] { return paintSquare(pixels, draw); }});
+    for (int size = 0; size < tables::kBoardSizes; ++size) {
+        const tables::BoardGeometry& board = tables::boardGeometry(size);
+        const int pixels = tables::picturePixels(board.marker.width);
+        for (int i = 0; i < board.markerPictures.size(); ++i) {
+            const SquareDrawer draw = marker(bgrColor(board.regions[i].colour));
+            files.push_back({gameFilePath(board.markerPictures[i]), pixels, pixels,
+                             [pixels, draw] { return paintSquare(pixels, draw); }});
+        }
     }
     return files;
 }

@@ -1,6 +1,7 @@
 #pragma once
 // The symbol pictures of every picture set. Each function paints one picture
-// into a 100 x 100 square (see canvas.h), filling the whole square.
+// into a 100 x 100 square (see canvas.h), filling the whole square. Every
+// enumeration lists its pictures in the order the game's tables name them.
 #include <QPainter>
 #include <QPainterPath>
 

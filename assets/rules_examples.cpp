@@ -9,63 +9,31 @@
 #include "engine/game.h"
 #include "markers.h"
 #include "pictures.h"
+#include "tables/geometry.h"
+#include "tables/pictures.h"
 
 namespace assets {
 
 namespace {
 
-struct Geometry {
-    int boardsize;
-    float pitch, side;  // cell pitch and side of cells and pieces, twips
-    float markerSide;   // twips
-    int trayColumns;    // tray slots per row
-    float trayLeft, trayTop, trayPitch;
-};
-
-const Geometry kGeometry[] = {
-    {0, 1800, 1560, 240, 8, 1080, 240, 1680},
-    {1, 1440, 1140, 240, 11, 360, 120, 1320},
-    {2, 1200, 1020, 150, 12, 480, 120, 1200},
-};
-
-// Board regions behind the grid: Left, Top, Width, Height in twips and colour.
-struct RegionRect {
-    float left, top, width, height;
-    std::uint32_t bbggrr;
-};
-
-std::vector<RegionRect> regionRects(int boardsize) {
-    switch (boardsize) {
-        case 0:
-            return {{5640, 4080, 3615, 3615, 0x00C00000},
-                    {9240, 4080, 3615, 3615, 0x00C0C000},
-                    {5640, 7680, 3615, 3615, 0x000080FF},
-                    {9240, 7680, 3615, 3615, 0x0000C000}};
-        case 1:
-            return {{5640, 4080, 7155, 7155, 0x00C00000}};
-        default:
-            return {{5640, 4080, 3645, 2445, 0x000080FF}, {9240, 4080, 3645, 2445, 0x00C0C000},
-                    {5640, 6480, 3645, 2445, 0x0000C000}, {9240, 6480, 3645, 2445, 0x000000C0},
-                    {5640, 8880, 3645, 2445, 0x008080FF}, {9240, 8880, 3645, 2445, 0x00C00000}};
-    }
-}
+using Geometry = tables::BoardGeometry;
 
 class RecordingBoard : public engine::BoardView {
   public:
     // Every piece starts in its tray slot and every marker hidden off the
     // grid, as the board leaves them before a puzzle is set up.
     explicit RecordingBoard(const Geometry& g) : g_(g) {
-        const int n = g.boardsize + 4;
+        const int n = g.n;
         for (int k = 0; k < n * n; ++k) pieces_.push_back(home(k));
         markers_.assign(n * n, QPointF(0, 0));
         markerShown_.assign(n * n, false);
-        markerPicture_.assign(n * n, "Images\\marker5x5.jpg");
+        markerPicture_.assign(n * n, g.markerPictures[0]);
     }
 
     float left(engine::Pic pic, int index) const override { return position(pic, index).x(); }
     float top(engine::Pic pic, int index) const override { return position(pic, index).y(); }
     float width(engine::Pic pic, int) const override {
-        return pic == engine::Pic::Image5 ? g_.markerSide : g_.side;
+        return pic == engine::Pic::Image5 ? g_.marker.width : g_.side;
     }
     float height(engine::Pic pic, int index) const override { return width(pic, index); }
     void setLeft(engine::Pic pic, int index, float left) override { slot(pic, index).setX(left); }
@@ -91,8 +59,8 @@ class RecordingBoard : public engine::BoardView {
     void checkhighscore() override {}
 
     QPointF cell(int index) const {
-        const int n = g_.boardsize + 4;
-        return QPointF(5760 + g_.pitch * (index % n), 4200 + g_.pitch * (index / n));
+        const tables::Rect r = g_.cell(index % g_.n, index / g_.n);
+        return QPointF(r.left, r.top);
     }
     const std::vector<QPointF>& pieces() const { return pieces_; }
     const std::vector<QPointF>& markers() const { return markers_; }
@@ -101,8 +69,8 @@ class RecordingBoard : public engine::BoardView {
 
   private:
     QPointF home(int piece) const {
-        return QPointF(g_.trayLeft + g_.trayPitch * (piece % g_.trayColumns),
-                       g_.trayTop + g_.trayPitch * (piece / g_.trayColumns));
+        const tables::Rect r = g_.home(piece);
+        return QPointF(r.left, r.top);
     }
     QPointF position(engine::Pic pic, int index) const {
         switch (pic) {
@@ -121,7 +89,7 @@ class RecordingBoard : public engine::BoardView {
         return pic == engine::Pic::Image5 ? markers_[index] : pieces_[index];
     }
 
-    Geometry g_;
+    const Geometry& g_;
     std::vector<QPointF> pieces_, markers_;
     std::vector<bool> markerShown_;
     std::vector<std::string> markerPicture_;
@@ -140,20 +108,11 @@ class FixedRandom : public engine::RandomSource {
     engine::ClockRandom inner_;
 };
 
+// Each board's example is pictured with one of its own picture sets.
 SquareDrawer symbolOf(int boardsize, int symbol) {
-    switch (boardsize) {
-        case 0: {
-            const Shape shapes[] = {Shape::Polygon, Shape::Triangle, Shape::Star, Shape::Square};
-            return [s = shapes[symbol - 1]](QPainter& p) { drawShape(p, s); };
-        }
-        case 1: {
-            const Face faces[] = {Face::Tovi, Face::Jebu, Face::Moustache, Face::Kramble,
-                                  Face::Wuzzet};
-            return [f = faces[symbol - 1]](QPainter& p) { drawFace(p, f); };
-        }
-        default:
-            return [symbol](QPainter& p) { drawDie(p, symbol); };
-    }
+    const tables::SetKind kinds[] = {tables::SetKind::Shapes, tables::SetKind::Faces,
+                                     tables::SetKind::Dice};
+    return setPicture(kinds[boardsize], symbol - 1);
 }
 
 struct Example {
@@ -164,8 +123,7 @@ struct Example {
 };
 
 Example makeExample(int boardsize) {
-    const Geometry& g = kGeometry[boardsize];
-    RecordingBoard board(g);
+    RecordingBoard board(tables::boardGeometry(boardsize));
     FixedRandom random(20240 + boardsize);
     engine::Game game(boardsize, board, random);
     game.setsolution();
@@ -175,7 +133,7 @@ Example makeExample(int boardsize) {
     Example example;
     example.solution = game.solution;
     example.pieces = board.pieces();
-    const int n = boardsize + 4;
+    const int n = tables::boardGeometry(boardsize).n;
     for (int k = 0; k < n * n; ++k) {
         example.cells.push_back(board.cell(k));
         if (board.markerShown(k))
@@ -186,19 +144,20 @@ Example makeExample(int boardsize) {
 
 // Draws the board in twips: a view box just around the coloured regions.
 void drawBoard(QPainter& painter, int boardsize, const Example& example, bool solved) {
-    const Geometry& g = kGeometry[boardsize];
-    const int n = boardsize + 4;
+    const Geometry& g = tables::boardGeometry(boardsize);
+    const int n = g.n;
     const QRectF view(5460, 3900, 7560, 7560);
     painter.fillRect(QRectF(0, 0, 100, 100), QColor(250, 251, 255));
     painter.save();
     painter.scale(100 / view.width(), 100 / view.height());
     painter.translate(-view.topLeft());
     QPainterPath regions;
-    for (const RegionRect& r : regionRects(boardsize))
-        regions.addRect(QRectF(r.left, r.top, r.width, r.height));
+    for (const tables::ColouredRect& r : g.regions)
+        regions.addRect(QRectF(r.rect.left, r.rect.top, r.rect.width, r.rect.height));
     softShadow(painter, regions, QPointF(40, 70), 90, QColor(0, 0, 0, 80));
-    for (const RegionRect& r : regionRects(boardsize))
-        painter.fillRect(QRectF(r.left, r.top, r.width, r.height), bgrColor(r.bbggrr));
+    for (const tables::ColouredRect& r : g.regions)
+        painter.fillRect(QRectF(r.rect.left, r.rect.top, r.rect.width, r.rect.height),
+                         bgrColor(r.colour));
     auto picture = [&](QPointF at, double side, const SquareDrawer& draw) {
         painter.save();
         painter.translate(at);
@@ -226,14 +185,14 @@ void drawBoard(QPainter& painter, int boardsize, const Example& example, bool so
             }
         }
         for (const auto& [at, path] : example.markers)
-            picture(at, g.markerSide, markerPicture(path));
+            picture(at, g.marker.width, markerPicture(path));
     }
     painter.restore();
 }
 
-PictureFile exampleFile(const QString& name, int boardsize, bool solved) {
-    const int pixels = jpegPixels(5400);
-    return {"Images/" + name, pixels, pixels, [=] {
+PictureFile exampleFile(const tables::ScreenPicture& file, int boardsize, bool solved) {
+    const int pixels = tables::picturePixels(file.width);
+    return {gameFilePath(file.path), pixels, pixels, [=] {
                 const Example example = makeExample(boardsize);
                 return paintSquare(pixels, [&](QPainter& painter) {
                     drawBoard(painter, boardsize, example, solved);
@@ -244,11 +203,12 @@ PictureFile exampleFile(const QString& name, int boardsize, bool solved) {
 }  // namespace
 
 std::vector<PictureFile> rulesExampleFiles() {
-    return {
-        exampleFile("4x4puzzle.jpg", 0, false),  exampleFile("4x4solution.jpg", 0, true),
-        exampleFile("5x5puzzle.jpg", 1, false),  exampleFile("5x5solution.jpg", 1, true),
-        exampleFile("6x6puzzle2.jpg", 2, false), exampleFile("6x6solution2.jpg", 2, true),
-    };
+    std::vector<PictureFile> files;
+    for (int size = 0; size < tables::kBoardSizes; ++size) {
+        files.push_back(exampleFile(tables::kRulesExamples[size].puzzle, size, false));
+        files.push_back(exampleFile(tables::kRulesExamples[size].solution, size, true));
+    }
+    return files;
 }
 
 }  // namespace assets

@@ -2,12 +2,14 @@
 // their captions, the level number, the clock and the result banner read out
 // their captions, and each grid cell its row, column and picture.
 #include "board/board_screen.h"
-#include "board/catalogue.h"
-#include "board/picture_names.h"
 #include "platform/accessible.h"
+#include "tables/pictures.h"
+#include "tables/texts.h"
 
 namespace board {
 namespace {
+
+namespace text = tables::board_text;
 
 QString captionOf(const platform::Label& label) {
     return QString::fromStdString(label.Caption());
@@ -20,12 +22,12 @@ void Board::describeControls() {
         platform::setAccessibleText(
             command,
             {QAccessible::Button, [&command] { return captionOf(command); },
-             [] { return QStringLiteral("Board command"); }, [this, i] { runCommand(i); }});
+             [] { return QString(text::kCommandDescription); }, [this, i] { runCommand(i); }});
     });
     const std::pair<platform::Label*, const char*> readOuts[] = {
-        {&Label1(0), "Level"},
-        {&Label2(1), "Seconds taken"},
-        {Label7, "Result"},
+        {&Label1(0), text::kLevelDescription},
+        {&Label2(1), text::kSecondsDescription},
+        {Label7, text::kResultDescription},
     };
     for (const auto& [label, meaning] : readOuts) {
         platform::setAccessibleText(*label, {QAccessible::StaticText,
@@ -38,22 +40,21 @@ void Board::describeControls() {
     const int n = layout_.n;
     Image1.forEach([this, n](int c, platform::PictureBox& cell) {
         auto name = [this, n, c] {
-            QString text = QStringLiteral("Row %1, column %2: ").arg(c / n + 1).arg(c % n + 1);
+            QString said = QString(text::kCellName).arg(c / n + 1).arg(c % n + 1);
             for (int p = 0; p < n * n; ++p) {
                 if (Image2(p).Left() != Image1(c).Left() || Image2(p).Top() != Image1(c).Top())
                     continue;
-                const auto& set = catalogue(layout_.boardsize).at(pictureset);
-                return text + QString::fromStdString(pictureName(set, p / n + 1));
+                const auto& set = tables::catalogue(layout_.boardsize)[pictureset];
+                return said + tables::pictureName(set.kind, p / n);
             }
-            return text + QStringLiteral("empty");
+            return said + text::kEmptyCell;
         };
         auto description = [this, n, c] {
-            return game_.given[c % n][c / n] == 1 ? QStringLiteral("Given, cannot be moved")
-                                                  : QStringLiteral("Grid cell");
+            return QString(game_.given[c % n][c / n] == 1 ? text::kGivenCell : text::kCell);
         };
         platform::setAccessibleText(cell, {QAccessible::Cell, name, description, {}});
     });
-    setAccessibleName(QStringLiteral("Pimbalo %1x%1 board").arg(n));
+    setAccessibleName(QString(text::kBoardName).arg(n));
 }
 
 }  // namespace board

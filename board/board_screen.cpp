@@ -2,12 +2,12 @@
 
 #include <string>
 
-#include "board/catalogue.h"
 #include "board/marks.h"
 #include "records/fastest_times.h"
 #include "records/highscores.h"
 #include "shell/common.h"
 #include "shell/module1.h"
+#include "tables/pictures.h"
 
 namespace board {
 namespace {
@@ -30,7 +30,7 @@ platform::LabelLook lookOf(const LabelDesign& design) {
             look.framed = true;
             break;
         case LabelLookKind::LevelNumber:
-            look.backColor = platform::bgr(kDesignBackground);
+            look.backColor = platform::bgr(tables::kBoardDesignBackground);
             look.framed = true;
             look.font = platform::designFont(QStringLiteral("Tahoma"), design.points, true);
             break;
@@ -60,7 +60,7 @@ Board::Board(const BoardLayout& layout)
       game_(layout.boardsize, *this, random_),
       picking_(game_, *this),
       ring_(ringLayout(layout)) {
-    setBackColor(platform::bgr(kDesignBackground));
+    setBackColor(platform::bgr(tables::kBoardDesignBackground));
     wireEvents();
     createControls();
     pickMark_ = new Mark(this, Mark::Kind::Pick);
@@ -72,10 +72,10 @@ Board::Board(const BoardLayout& layout)
 // the cells and slots, the thumbnails (above the panel's text, which they lie
 // on), the pieces, and the markers on top.
 void Board::createControls() {
-    for (std::size_t i = 0; i < layout_.regions.size(); ++i) {
+    for (int i = 0; i < layout_.regions.size(); ++i) {
         auto* shape = new platform::Shape(this, platform::bgr(layout_.regions[i].colour));
         place(*shape, layout_.regions[i].rect);
-        Shape1.add(static_cast<int>(i), shape);
+        Shape1.add(i, shape);
     }
     createLabels();
     createPictures();
@@ -119,16 +119,20 @@ void Board::createPictures() {
     }
     // Start-up moves the slot under its piece; only its size matters here.
     Image3.add(0, framedBox(layout_.home(0), false));
-    for (std::size_t i = 0; i < layout_.thumbnails.size(); ++i)
-        Image4.add(static_cast<int>(i), framedBox(layout_.thumbnails[i], false));
-    if (layout_.logo) Image6 = framedBox(*layout_.logo, true);
+    const int sets = layout_.thumbnails.size();
+    for (int i = 0; i < sets; ++i) Image4.add(i, framedBox(layout_.thumbnails[i], false));
+    // The 4x4 logo is the panel's last element; the others show it apart.
+    if (layout_.logoInPanel)
+        Image4.add(sets, framedBox(layout_.logo, false));
+    else
+        Image6 = framedBox(layout_.logo, true);
     // The pieces' design places are their homes in the tray.
     for (int k = 0; k < n * n; ++k) Image2.add(k, framedBox(layout_.home(k), true));
 
     auto* marker = new platform::PictureBox(this);
     place(*marker, layout_.marker);
     marker->hide();
-    if (!layout_.markerPicture.empty()) marker->loadPicture(layout_.markerPicture);
+    if (!layout_.markerByRegion) marker->loadPicture(layout_.markerPictures[0]);
     Image5.add(0, marker);
 }
 
@@ -169,7 +173,7 @@ void Board::wireEvents() {
 
 void Board::Form_Load() {
     shell::placeform(*this);
-    if (Image6) Image6->loadPicture(kLogoPicture);
+    if (Image6) Image6->loadPicture(tables::kBoardLogo.path);
 
     random_.seedFromClock();
     pictureset = engine::drawBelow(random_, layout_.pictureSets);
@@ -202,10 +206,9 @@ void Board::Form_Load() {
 }
 
 void Board::seticons() {
-    const auto& sets = catalogue(layout_.boardsize);
-    for (std::size_t s = 0; s < sets.size(); ++s)
-        Image4(static_cast<int>(s)).loadPicture(sets[s].thumbnailPath());
-    if (layout_.logoInPanel) Image4(layout_.pictureSets).loadPicture(kLogoPicture);
+    const auto sets = tables::catalogue(layout_.boardsize);
+    for (int s = 0; s < sets.size(); ++s) Image4(s).loadPicture(sets[s].thumbnailPath());
+    if (layout_.logoInPanel) Image4(layout_.pictureSets).loadPicture(tables::kBoardLogo.path);
 }
 
 void Board::setpicture() {
@@ -215,7 +218,7 @@ void Board::setpicture() {
         Image5(i).hide();
     }
     // Each file is read once; the other copies of a symbol share its picture.
-    const PictureSet& set = catalogue(layout_.boardsize).at(pictureset);
+    const tables::PictureSet& set = tables::catalogue(layout_.boardsize)[pictureset];
     for (int k = 1; k <= n; ++k) Image2(n * (k - 1)).loadPicture(set.symbolPath(k));
     for (int c = 1; c < n; ++c) {
         for (int k = 1; k <= n; ++k)
@@ -237,7 +240,8 @@ void Board::Image2_MouseDown(int index, int button, int, float x, float y) {
 
 void Board::Image2_MouseMove(int index, int button, int, float x, float y) {
     if (picking_.moved(index, button, x, y)) showMarks();
-    if (game_.pieceMouseMove(index, button, x, y, {Width(), Height()})) setMouseIcon(kHandCursor);
+    if (game_.pieceMouseMove(index, button, x, y, {Width(), Height()}))
+        setMouseIcon(tables::kHandCursor);
 }
 
 void Board::Image2_MouseUp(int index, int button, int, float, float) {
@@ -247,7 +251,7 @@ void Board::Image2_MouseUp(int index, int button, int, float, float) {
 }
 
 void Board::Label3_MouseMove(int, int, int, float, float) {
-    setMouseIcon(kHandCursor);
+    setMouseIcon(tables::kHandCursor);
 }
 
 void Board::Timer1_Timer() {

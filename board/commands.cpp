@@ -4,9 +4,12 @@
 #include "records/highscores.h"
 #include "records/inf_files.h"
 #include "shell/module1.h"
+#include "tables/texts.h"
 
 namespace board {
 namespace {
+
+namespace text = tables::board_text;
 
 enum Command { Exit, StartAgain, NewPuzzle, FastestTimes, ShowSolution, SwitchPanel };
 
@@ -75,10 +78,11 @@ void Board::showSolution() {
 
 void Board::switchPanel() {
     const bool showThumbnails = iconson == 0;
-    Label3(SwitchPanel).setCaption(showThumbnails ? kShowRules : kChangePictures);
+    Label3(SwitchPanel)
+        .setCaption(showThumbnails ? text::kShowRules : text::kCommands[SwitchPanel]);
     Image4.forEach(
         [&](int, platform::PictureBox& thumbnail) { thumbnail.setVisible(showThumbnails); });
-    Label1(1).setCaption(showThumbnails ? kSelectPrompt : layout_.rulesText);
+    Label1(1).setCaption(showThumbnails ? text::kSelectPicture : layout_.rulesText);
     iconson = (iconson + 1) % 2;
     play("wav\\space.wav");
 }

@@ -10,6 +10,7 @@
 #include "board/board_screen.h"
 #include "board/marks.h"
 #include "records/highscores.h"
+#include "tables/pictures.h"
 
 namespace board {
 namespace {
@@ -67,7 +68,7 @@ void Board::chooseSlot(int slot) {
 }
 
 void Board::afterChoice(engine::Picking::Choice choice) {
-    if (choice.handPointer) setMouseIcon(kHandCursor);
+    if (choice.handPointer) setMouseIcon(tables::kHandCursor);
     showMarks();
 }
 

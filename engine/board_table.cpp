@@ -50,7 +50,6 @@ BoardTable fourByFour() {
     t.forcedPatterns = {{2, 4, 7, 10, 12, 13}, {1, 2, 3, 7, 10, 11}, {1, 5, 7, 8, 12, 15}};
     t.thresholds = {10, 8, 6};
     t.markerRule = MarkerRule::ByQuarter;
-    t.markerPrefix = "Images\\corner";
     t.extraRegions = joined(diagonals(4), blocks(4, 2, 2, RegionKind::Quarter));
     t.testedKinds = {RegionKind::Quarter, RegionKind::Diagonal, RegionKind::Column,
                      RegionKind::Row};
@@ -93,7 +92,6 @@ BoardTable sixBySix() {
     t.forcedPatterns = {{2, 5, 8, 10, 12, 15, 16, 21, 22, 25, 27, 29, 32, 35}};
     t.thresholds = {24, 19, 14};
     t.markerRule = MarkerRule::ByRectangle;
-    t.markerPrefix = "Images\\corner6x6";
     t.extraRegions = blocks(6, 3, 2, RegionKind::Rectangle);
     // The rectangles are drawn and explained to the player but never checked.
     t.testedKinds = {RegionKind::Column, RegionKind::Row};

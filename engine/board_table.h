@@ -24,10 +24,12 @@ enum class Rotation {
     HalfTurnFlag,         // turns = Int(2*Rnd); 1 means a half turn
 };
 
+// Which picture a given cell's marker shows (the pictures are the board
+// geometry's marker pictures, one per quarter or rectangle).
 enum class MarkerRule {
-    ByQuarter,    // "Images\corner1.jpg".."corner4.jpg"
+    ByQuarter,    // the marker of the cell's quarter
     OwnPicture,   // the marker keeps the picture it was created with
-    ByRectangle,  // "Images\corner6x61.jpg".."corner6x66.jpg"
+    ByRectangle,  // the marker of the cell's rectangle
 };
 
 struct BoardTable {
@@ -48,7 +50,6 @@ struct BoardTable {
     std::vector<std::vector<int>> forcedPatterns;  // mask entries set to 1
     std::array<int, 3> thresholds;                 // by level 0, 1, 2
     MarkerRule markerRule;
-    std::string markerPrefix;  // marker file is prefix + region number + ".jpg"
     // Extra regions of the board (beyond rows and columns) and the kinds the
     // answer check tests, in the check's order.
     std::vector<Region> extraRegions;

@@ -1,18 +1,21 @@
 // Judging a full grid. Only the region sums count: a grid that repeats
 // pictures but adds up right in every tested region passes.
 #include "engine/game.h"
+#include "tables/texts.h"
 
 namespace engine {
 namespace {
 
+namespace text = tables::board_text;
+
 const char* failureMessage(RegionKind kind) {
     switch (kind) {
         case RegionKind::Quarter:
-            return "The Quarters are Wrong!";
+            return text::kQuartersWrong;
         case RegionKind::Diagonal:
-            return "The Diagonals are Wrong!";
+            return text::kDiagonalsWrong;
         default:
-            return "Wrong, Try Again";
+            return text::kWrong;
     }
 }
 
@@ -40,9 +43,10 @@ void Game::checkanswer(const Options& opt) {
     // Start from the congratulation; every failing region overwrites it, so
     // the kind tested last (rows and columns) wins.
     if (opt.timerson == 0) {
-        view_.setCaption(Lab::Label7, "Correct, Well Done!!!");
+        view_.setCaption(Lab::Label7, text::kCorrect);
     } else {
-        view_.setCaption(Lab::Label7, "Correct in " + view_.caption(Lab::Label2_1) + " seconds!!!");
+        view_.setCaption(Lab::Label7, text::kCorrectInBefore + view_.caption(Lab::Label2_1) +
+                                          text::kCorrectInAfter);
     }
     for (RegionKind kind : table().testedKinds) {
         for (const Region& region : regionsOfKind(table(), kind)) {

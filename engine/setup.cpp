@@ -5,6 +5,7 @@
 
 #include "engine/game.h"
 #include "engine/grid.h"
+#include "tables/geometry.h"
 
 namespace engine {
 namespace {
@@ -88,7 +89,7 @@ void Game::placeGiven(int x, int y) {
             rule == MarkerRule::ByQuarter ? RegionKind::Quarter : RegionKind::Rectangle;
         const int number = regionNumberOf(table(), kind, {x, y});
         view_.loadPicture(Pic::Image5, cell,
-                          table().markerPrefix + std::to_string(number) + ".jpg");
+                          tables::boardGeometry(table().boardsize).markerPictures[number - 1]);
     }
     view_.bringToFront(Pic::Image5, cell);
     view_.setVisible(Pic::Image5, cell, true);

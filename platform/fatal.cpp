@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "tables/texts.h"
+
 namespace platform {
 namespace {
 FatalHandler& handler() {
@@ -18,14 +20,12 @@ void setFatalHandler(FatalHandler h) {
 }
 
 void fatalFileError(const QString& path, const QString& reason) {
-    const QString message =
-        QStringLiteral("Pimbalo cannot go on: the file \"%1\" could not be loaded (%2).")
-            .arg(path, reason);
+    const QString message = QString(tables::error_text::kCannotGoOn).arg(path, reason);
     if (handler()) handler()(message);
     std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) &&
         QGuiApplication::platformName() != QLatin1String("offscreen")) {
-        QMessageBox::critical(nullptr, QStringLiteral("Pimbalo"), message);
+        QMessageBox::critical(nullptr, tables::error_text::kTitle, message);
     }
     std::exit(1);
 }

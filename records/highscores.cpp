@@ -5,6 +5,8 @@
 #include <string>
 
 #include "platform/desktop.h"
+#include "tables/geometry.h"
+#include "tables/texts.h"
 
 namespace records {
 
@@ -14,11 +16,11 @@ using platform::bgr;
 using platform::designFont;
 using platform::Label;
 using platform::LabelLook;
+namespace text = tables::fastest_text;
 
 // The window lies over a full-size board screen (11520 twips high), 15 twips
 // below its top edge.
 constexpr float kClientWidth = 15210, kClientHeight = 4050;
-constexpr float kBoardScreenHeight = 11520;
 constexpr float kBelowBoardTop = 15;
 
 constexpr float kFrameLefts[kLevels] = {180, 5190, 10200};
@@ -31,10 +33,6 @@ constexpr float kNameBoxWidth = 3375, kNameBoxHeight = 405;
 constexpr float kNameBoxAboveRow = 60;
 constexpr int kMaxNameLength = 25;
 constexpr int kNameCopyIntervalMs = 100;
-
-const char* const kTitles[kSizes] = {"Pimbalo 4x4 Fastest Times", "Pimbalo 5x5 Fastest Times",
-                                     "Pimbalo 6x6 Fastest Times"};
-const char* const kLevelCaptions[kLevels] = {"Level 1", "Level 2", "Level 3"};
 
 QColor yellow() {
     return bgr(0x0000FFFF);
@@ -99,15 +97,15 @@ void Highscores::buildLayout() {
     setClientSize(kClientWidth, kClientHeight);
     setBackColor(red());
 
-    Label2 = makeLabel(client(), textLook(yellow(), 20.25, Qt::AlignHCenter), kTitles[0], 0, 120,
-                       15240, 600);
+    Label2 = makeLabel(client(), textLook(yellow(), 20.25, Qt::AlignHCenter), text::kTitles[0], 0,
+                       120, 15240, 600);
 
     LabelLook button = textLook(yellow(), 18, Qt::AlignHCenter);
     button.transparent = false;
     button.backColor = black();
     button.framed = true;
     Label3.wire = [this](int, Label& label) { label.on.click = [this] { Label3_Click(); }; };
-    Label3.add(0, makeLabel(client(), button, "Continue", 12960, 120, 1935, 495));
+    Label3.add(0, makeLabel(client(), button, text::kContinue, 12960, 120, 1935, 495));
 
     const LabelLook heading = textLook(yellow(), 12, Qt::AlignHCenter);
     // Names and times are coloured yellow by the start-up, not by the design.
@@ -119,12 +117,13 @@ void Highscores::buildLayout() {
         frame->setFrameStyle(QFrame::Box | QFrame::Plain);
         Frame1.add(j, frame);
 
-        Label6.add(j, makeLabel(frame, heading, kLevelCaptions[j], 120, 240, 5040, 360));
+        Label6.add(j, makeLabel(frame, heading, text::kLevels[j], 120, 240, 5040, 360));
         for (int r = 0; r < kRanks; ++r) {
             const float top = kFirstRowTop + kRowPitch * r;
             Label* name =
-                makeLabel(frame, entry, "Solo Play", kNameLeft, top, kNameWidth, kRowHeight);
-            Label* time = makeLabel(frame, entry, "88888", kTimeLeft, top, kTimeWidth, kRowHeight);
+                makeLabel(frame, entry, text::kDesignName, kNameLeft, top, kNameWidth, kRowHeight);
+            Label* time =
+                makeLabel(frame, entry, text::kDesignTime, kTimeLeft, top, kTimeWidth, kRowHeight);
             // Typed names are shown as typed, never read as markup.
             name->setTextFormat(Qt::PlainText);
             name->hide();
@@ -141,8 +140,8 @@ void Highscores::buildLayout() {
         Text1.add(j, box);
     }
 
-    Label1 = makeLabel(client(), textLook(yellow(), 20.25, Qt::AlignHCenter),
-                       "Type your name in the box", 0, 3360, 15240, 600);
+    Label1 = makeLabel(client(), textLook(yellow(), 20.25, Qt::AlignHCenter), text::kTypeYourName,
+                       0, 3360, 15240, 600);
     Label1->hide();
 }
 
@@ -159,14 +158,14 @@ void Highscores::fill(const FastestTimes& tables, int boardsize) {
 
 void Highscores::placeWindow() {
     setLeft((platform::screenWidthTwips() - Width()) / 2);
-    setTop((platform::screenHeightTwips() - kBoardScreenHeight) / 2 + kBelowBoardTop);
+    setTop((platform::screenHeightTwips() - tables::kWindowHeight) / 2 + kBelowBoardTop);
 }
 
 // Only a known board size is filled; any other (a hand-edited lastgame.inf)
 // leaves the design texts.
 void Highscores::fillTables(const FastestTimes& tables, int s) {
     if (!inRange(s, kSizes)) return;
-    Label2->setCaption(kTitles[s]);
+    Label2->setCaption(text::kTitles[s]);
     for (int r = 0; r < kRanks; ++r) {
         for (int j = 0; j < kLevels; ++j) {
             Label8(row(j, r)).setCaption(tables.bestname[s][j][r]);

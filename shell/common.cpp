@@ -3,6 +3,7 @@
 #include "platform/desktop.h"
 #include "platform/form.h"
 #include "platform/sound.h"
+#include "tables/geometry.h"
 
 namespace shell {
 
@@ -11,7 +12,7 @@ void playwav(const std::string& file) {
 }
 
 void placeform(platform::Form& screen) {
-    screen.setOuterSize(15360.0f, 11520.0f);
+    screen.setOuterSize(tables::kWindowWidth, tables::kWindowHeight);
     const float w = platform::screenWidthTwips();
     const float h = platform::screenHeightTwips();
     platform::setBusyPointer(true);

@@ -4,11 +4,12 @@
 #include <QScreen>
 
 #include "platform/controls.h"
+#include "tables/colours.h"
 
 namespace shell {
 
 void Grey::Form_Load() {
-    setBackColor(platform::bgr(0x00D78731));
+    setBackColor(platform::bgr(tables::kBackdrop));
     // Covers the whole screen even where no window manager maximizes it.
     if (const QScreen* screen = QGuiApplication::primaryScreen()) setGeometry(screen->geometry());
     setWindowState(Qt::WindowMaximized);

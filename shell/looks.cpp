@@ -41,6 +41,13 @@ platform::Label* makeLabel(QWidget* parent, float left, float top, float width, 
     return label;
 }
 
+platform::PictureBox* makePictureBox(QWidget* parent, float left, float top,
+                                     const tables::ScreenPicture& picture) {
+    auto* box = new platform::PictureBox(parent);
+    box->setBounds(left, top, picture.width, picture.height);
+    return box;
+}
+
 void styleBlueOnWhite(QWidget& control, const QFont& font) {
     platform::styleText(control, blue(), Qt::white, font);
 }

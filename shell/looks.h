@@ -7,17 +7,13 @@
 #include <string>
 
 #include "platform/controls.h"
+#include "tables/pictures.h"
 
 namespace shell {
 
 // The publisher's page, opened by the options screen's address label and
-// headings, and the caption that shows it.
+// headings.
 inline constexpr char kPublisherPage[] = "https://pimbalo.example.org/";
-inline constexpr char kPublisherCaption[] = "www.pimbalo.example.org";
-
-// The one-line notice at the foot of the title and options screens.
-inline constexpr char kLegalNotice[] =
-    "Pimbalo (c) 2026 The Pimbalo developers. All rights reserved.";
 
 QColor yellow();
 QColor blue();
@@ -32,6 +28,10 @@ platform::LabelLook blueTextLook(const QFont& font, Qt::Alignment alignment = Qt
 // A label placed and dressed in one go.
 platform::Label* makeLabel(QWidget* parent, float left, float top, float width, float height,
                            const std::string& caption, const platform::LabelLook& look);
+
+// A picture box of the size of the picture it is designed to show.
+platform::PictureBox* makePictureBox(QWidget* parent, float left, float top,
+                                     const tables::ScreenPicture& picture);
 
 // Option buttons and check boxes: blue text on white.
 void styleBlueOnWhite(QWidget& control, const QFont& font);

@@ -3,29 +3,16 @@
 #include "shell/common.h"
 #include "shell/looks.h"
 #include "shell/module1.h"
+#include "tables/pictures.h"
+#include "tables/texts.h"
 
 namespace shell {
 
-const RulesPage& rulesPage(int page) {
-    // The 6x6 pictures were redrawn once; their files carry a "2".
-    static const RulesPage pages[] = {
-        {"4x4 Board",
-         "Drag and drop the pictures into the grid so that all the pictures in each row are "
-         "different, all the pictures in each column are different, all the pictures in each "
-         "diagonal are different and all the pictures in each quarter are different.",
-         "images\\4x4puzzle.jpg", "images\\4x4solution.jpg"},
-        {"5x5 Board",
-         "Drag and drop the pictures into the grid so that all the pictures in each row are "
-         "different, all the pictures in each column are different and all the pictures along "
-         "each diagonal are different.",
-         "images\\5x5puzzle.jpg", "images\\5x5solution.jpg"},
-        {"6x6 Board",
-         "Drag and drop the pictures into the grid so that all the pictures in each row are "
-         "different, all the pictures in each column are different and all the pictures in "
-         "each of the six coloured rectangles are different.",
-         "images\\6x6puzzle2.jpg", "images\\6x6solution2.jpg"},
-    };
-    return pages[page];
+namespace text = tables::rules_text;
+
+RulesPage rulesPage(int page) {
+    const tables::RulesExample& example = tables::kRulesExamples[page];
+    return {text::kPages[page], tables::kRules[page], example.puzzle.path, example.solution.path};
 }
 
 Morvelrules::Morvelrules() : Form(kName, platform::FormKind::FullSize) {
@@ -50,9 +37,8 @@ void Morvelrules::buildLayout() {
     }
     Option1(0).setValue(true);
 
-    Image1.add(0, new platform::PictureBox(this)).setBounds(4800, 120, 4995, 1800);
-    Image2 = new platform::PictureBox(this);
-    Image2->setBounds(13560, 120, 1500, 2085);
+    Image1.add(0, makePictureBox(this, 4800, 120, tables::kRulesPicture));
+    Image2 = makePictureBox(this, 13560, 120, tables::kMascot);
 
     const QFont large = designFont("Arial", 24, false);
     const QFont sentence = designFont("Arial", 18, false);
@@ -60,36 +46,32 @@ void Morvelrules::buildLayout() {
                             blueTextLook(large, Qt::AlignLeft)));
     // A touch wider than designed: the Arial stand-in sets this heading a few
     // pixels wider than the label and would cut off its last letter.
-    Label1.add(0, makeLabel(this, 4920, 2280, 4650, 540, "The Rules of Pimbalo",
+    Label1.add(0, makeLabel(this, 4920, 2280, 4650, 540, text::kTitle,
                             blueTextLook(large, Qt::AlignLeft)));
     Label1.add(2, makeLabel(this, 360, 3000, 14535, 1725, rulesPage(0).rule,
                             blueTextLook(sentence, Qt::AlignLeft, true)));
-    Label1.add(3, makeLabel(this, 1320, 4320, 5415, 525, "Puzzle", blueTextLook(large)));
-    Label1.add(1, makeLabel(this, 8280, 4320, 5415, 525, "Solution", blueTextLook(large)));
+    Label1.add(3, makeLabel(this, 1320, 4320, 5415, 525, text::kPuzzle, blueTextLook(large)));
+    Label1.add(1, makeLabel(this, 8280, 4320, 5415, 525, text::kSolution, blueTextLook(large)));
 
-    Image3 = new platform::PictureBox(this);
-    Image3->setBounds(1320, 4920, 5400, 5400);
-    Image4 = new platform::PictureBox(this);
-    Image4->setBounds(8280, 4920, 5400, 5400);
+    Image3 = makePictureBox(this, 1320, 4920, tables::kRulesExamples[0].puzzle);
+    Image4 = makePictureBox(this, 8280, 4920, tables::kRulesExamples[0].solution);
 
-    Label1.add(4, makeLabel(this, 360, 10620, 11775, 885,
-                            "High scores will only be saved if Pimbalo is installed on your hard "
-                            "disk. To install Pimbalo run the setup program on the CD-ROM.",
+    Label1.add(4, makeLabel(this, 360, 10620, 11775, 885, text::kInstallNotice,
                             blueTextLook(sentence, Qt::AlignLeft, true)));
-    Label3.add(0, makeLabel(this, 13560, 10920, 1695, 495, "Exit",
+    Label3.add(0, makeLabel(this, 13560, 10920, 1695, 495, text::kExit,
                             buttonLook(designFont("Arial", 18, true))));
 }
 
 void Morvelrules::Form_Load() {
     placeform(*this);
-    Image1(0).loadPicture("Images\\pimbalo2.jpg");
-    Image2->loadPicture("Images\\logo2.jpg");
+    Image1(0).loadPicture(tables::kRulesPicture.path);
+    Image2->loadPicture(tables::kMascot.path);
     Image3->loadPicture(rulesPage(0).puzzlePicture);
     Image4->loadPicture(rulesPage(0).solutionPicture);
 }
 
 void Morvelrules::showPage(int page) {
-    const RulesPage& shown = rulesPage(page);
+    const RulesPage shown = rulesPage(page);
     Image3->loadPicture(shown.puzzlePicture);
     Image4->loadPicture(shown.solutionPicture);
     Label1(6).setCaption(shown.heading);

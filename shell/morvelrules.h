@@ -38,6 +38,6 @@ struct RulesPage {
     const char* puzzlePicture;
     const char* solutionPicture;
 };
-const RulesPage& rulesPage(int page);
+RulesPage rulesPage(int page);
 
 }  // namespace shell

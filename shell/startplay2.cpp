@@ -5,10 +5,16 @@
 #include "shell/looks.h"
 #include "shell/module1.h"
 #include "shell/titlefrm.h"
+#include "tables/colours.h"
+#include "tables/geometry.h"
+#include "tables/pictures.h"
+#include "tables/texts.h"
 
 namespace shell {
 
 namespace {
+
+namespace text = tables::options_text;
 
 // Every check box clicks when the sound was on before the change, so ticking
 // "Play Sound" is silent and clearing it is heard.
@@ -32,28 +38,26 @@ Startplay2::Startplay2() : Form(kName, platform::FormKind::Fixed) {
 
 void Startplay2::buildLayout() {
     using platform::designFont;
-    Image1.add(0, new platform::PictureBox(this)).setBounds(1080, 120, 4170, 1500);
-    Image2 = new platform::PictureBox(this);
-    Image2->setBounds(4320, 1800, 1500, 2085);
+    Image1.add(0, makePictureBox(this, 1080, 120, tables::kOptionsPicture));
+    Image2 = makePictureBox(this, 4320, 1800, tables::kMascot);
 
     const auto heading = blueTextLook(designFont("Arial", 27.75, true));
-    Label2.add(1, makeLabel(this, 120, 1620, 3960, 600, "Board Size", heading));
-    Label2.add(0, makeLabel(this, 1440, 5640, 3600, 600, "Level", heading));
-    Label2.add(12, makeLabel(this, 1560, 7500, 3315, 375, kPublisherCaption,
+    Label2.add(1, makeLabel(this, 120, 1620, 3960, 600, text::kBoardSize, heading));
+    Label2.add(0, makeLabel(this, 1440, 5640, 3600, 600, text::kLevel, heading));
+    Label2.add(12, makeLabel(this, 1560, 7500, 3315, 375, tables::kPublisherCaption,
                              buttonLook(designFont("Arial", 12, true))));
 
-    const char* const sizes[] = {"4x4", "5x5", "6x6"};
     const float sizeTops[] = {2295, 3180, 4065};
     for (int k = 0; k < 3; ++k) {
         auto* option = new platform::OptionButton(this);
         option->setBounds(1200, sizeTops[k], 1815, 840);
-        option->setText(sizes[k]);
+        option->setText(text::kSizes[k]);
         styleBlueOnWhite(*option, designFont("Arial", 36, true));
         Option1.add(k, option);
     }
     Option1(0).setValue(true);
 
-    Label6 = makeLabel(this, 3900, 4200, 2295, 555, "The Rules",
+    Label6 = makeLabel(this, 3900, 4200, 2295, 555, text::kTheRules,
                        buttonLook(designFont("Arial", 20.25, true)));
 
     auto makeCheck = [this](float left, float width, const char* caption, int designed) {
@@ -64,20 +68,21 @@ void Startplay2::buildLayout() {
         box->setValue(designed);
         return box;
     };
-    Check2 = makeCheck(360, 1575, "Timers On", 0);
-    Check1 = makeCheck(2160, 1695, "Play Sound", 1);
-    Check3 = makeCheck(4080, 1935, "Hide Desktop", 1);
+    Check2 = makeCheck(360, 1575, text::kTimersOn, 0);
+    Check1 = makeCheck(2160, 1695, text::kPlaySound, 1);
+    Check3 = makeCheck(4080, 1935, text::kHideDesktop, 1);
     Check3->hide();
 
-    const QColor levelColours[] = {QColor(0, 0, 255), QColor(255, 0, 255), QColor(255, 0, 0)};
+    // The level buttons wear the colours the boards take at each level.
     const float levelLefts[] = {1440, 2760, 4080};
-    for (int k = 0; k < 3; ++k)
-        Label1.add(k, makeLabel(this, levelLefts[k], 6360, 975, 855, std::to_string(k + 1),
-                                buttonLook(designFont("Tahoma", 32.25, true), levelColours[k])));
+    for (int k = 0; k < tables::kLevels; ++k)
+        Label1.add(k, makeLabel(this, levelLefts[k], 6360, 975, 855, text::kLevels[k],
+                                buttonLook(designFont("Tahoma", 32.25, true),
+                                           platform::bgr(tables::kLevelColours[k]))));
 
-    Label3.add(0, makeLabel(this, 5280, 7500, 735, 375, "Exit",
+    Label3.add(0, makeLabel(this, 5280, 7500, 735, 375, text::kExit,
                             buttonLook(designFont("Arial", 12.75, true))));
-    Label5 = makeLabel(this, 0, 7980, 6495, 255, kLegalNotice,
+    Label5 = makeLabel(this, 0, 7980, 6495, 255, tables::kLegalNotice,
                        blueTextLook(designFont("Arial", 9, false)));
 }
 
@@ -99,11 +104,11 @@ void Startplay2::wireEvents() {
 
 void Startplay2::Form_Load() {
     centreOnScreen();
-    Image1(0).loadPicture("Images\\pimbalo3.jpg");
-    Image2->loadPicture("Images\\logo2.jpg");
+    Image1(0).loadPicture(tables::kOptionsPicture.path);
+    Image2->loadPicture(tables::kMascot.path);
     // On a screen of 1024 pixels or less the game's windows cover the desktop
     // anyway, so the backdrop cannot be switched off here.
-    if (platform::screenWidthTwips() > 15360) Check3->show();
+    if (platform::screenWidthTwips() > tables::kWindowWidth) Check3->show();
 
     // Each of these reacts as a player's change would when it moves a box
     // away from its designed state.
@@ -154,7 +159,8 @@ void Startplay2::Label6_Click() {
 
 void Startplay2::Label3_Click() {
     // Touching the title screen loads it afresh, re-reading both files.
-    platform::screens::get<Titlefrm>(Titlefrm::kName).Label5->setCaption("Cancel");
+    platform::screens::get<Titlefrm>(Titlefrm::kName)
+        .Label5->setCaption(tables::title_text::kCancel);
     platform::screens::show(Titlefrm::kName);
     platform::screens::unload(kName);
 }

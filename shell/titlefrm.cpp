@@ -5,6 +5,8 @@
 #include "shell/common.h"
 #include "shell/looks.h"
 #include "shell/module1.h"
+#include "tables/pictures.h"
+#include "tables/texts.h"
 
 namespace shell {
 
@@ -27,18 +29,17 @@ Titlefrm::Titlefrm() : Form(kName, platform::FormKind::Fixed) {
     Image1.wire = [this](int, platform::PictureBox& picture) {
         picture.on.click = [this] { leaveForOptions(); };
     };
-    Image1.add(0, new platform::PictureBox(this)).setBounds(240, 120, 6000, 2160);
-    Image1.add(1, new platform::PictureBox(this)).setBounds(1440, 2760, 3600, 3600);
-    Image2 = new platform::PictureBox(this);
-    Image2->setBounds(5220, 6240, 1005, 1425);
+    Image1.add(0, makePictureBox(this, 240, 120, tables::kTitlePicture));
+    Image1.add(1, makePictureBox(this, 1440, 2760, tables::kOpeningPicture));
+    Image2 = makePictureBox(this, 5220, 6240, tables::kTitleMascot);
 
     const auto button = buttonLook(platform::designFont("Arial Rounded MT Bold", 20.25, true));
-    Label5 = makeLabel(this, 1560, 7080, 1575, 600, "OK", button);
+    Label5 = makeLabel(this, 1560, 7080, 1575, 600, tables::title_text::kOk, button);
     Label5->on.click = [this] { leaveForOptions(); };
-    Label7 = makeLabel(this, 3360, 7080, 1575, 600, "Exit", button);
+    Label7 = makeLabel(this, 3360, 7080, 1575, 600, tables::title_text::kExit, button);
     Label7->on.click = [] { platform::screens::endProgram(); };
 
-    Label2 = makeLabel(this, 120, 7920, 6255, 255, kLegalNotice,
+    Label2 = makeLabel(this, 120, 7920, 6255, 255, tables::kLegalNotice,
                        blueTextLook(platform::designFont("Arial", 9, false)));
 }
 
@@ -64,9 +65,9 @@ bool Titlefrm::loadEverything() {
 }
 
 bool Titlefrm::loadPictures() {
-    return loadOptionalPicture(Image1(0), "Images\\pimbalo.jpg") &&
-           loadOptionalPicture(Image1(1), "Images\\opening3.jpg") &&
-           loadOptionalPicture(*Image2, "Images\\logo4.jpg");
+    return loadOptionalPicture(Image1(0), tables::kTitlePicture.path) &&
+           loadOptionalPicture(Image1(1), tables::kOpeningPicture.path) &&
+           loadOptionalPicture(*Image2, tables::kTitleMascot.path);
 }
 
 void Titlefrm::leaveForOptions() {

@@ -3,9 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QColor>
+#include <QDirIterator>
 
-#include "expected_files.h"
-#include "game_folder.h"
+#include "named_pictures.h"
+#include "tables/colours.h"
 
 namespace {
 
@@ -55,29 +56,39 @@ double colourDistance(const QImage& a, const QImage& b) {
     return distance;
 }
 
-std::vector<ExpectedPicture> everyPicture() {
-    std::vector<ExpectedPicture> all = expectedOtherPictures();
-    for (int board = 0; board < 3; ++board)
-        for (const ExpectedSet& set : expectedSets(board))
-            for (const QString& file : set.symbols)
-                all.push_back({set.folder + "/" + file, set.pixels, set.pixels});
-    return all;
+// Full paths of every file below a folder.
+QStringList filesBelow(const QString& folder) {
+    QStringList files;
+    QDirIterator it(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) files << QDir(it.next()).absolutePath();
+    return files;
 }
 
 }  // namespace
 
-TEST(GeneratedPictures, EveryNamedPictureDecodesAtTwiceItsControlSize) {
-    const auto all = everyPicture();
-    EXPECT_EQ(all.size(), 108u + 34u);
-    for (const ExpectedPicture& expected : all) {
-        QImageReader reader(gamePath(expected.path));
-        EXPECT_EQ(reader.format(), "jpeg") << qPrintable(expected.path);
+// Whatever name a table gives a picture, the game finds it and it has the
+// size of its control, doubled. A picture named by two tables (a thumbnail
+// on two boards) must suit both.
+TEST(GeneratedPictures, EveryPictureTheTablesNameDecodesAtItsSize) {
+    for (const NamedPicture& named : picturesTheTablesName()) {
+        const QString file = findGamePicture(named.path);
+        ASSERT_FALSE(file.isEmpty()) << named.path << " is missing";
+        QImageReader reader(file);
+        EXPECT_EQ(reader.format(), "jpeg") << named.path;
         const QImage image = reader.read();
-        ASSERT_FALSE(image.isNull())
-            << qPrintable(expected.path) << ": " << qPrintable(reader.errorString());
-        EXPECT_EQ(image.size(), QSize(expected.width, expected.height))
-            << qPrintable(expected.path);
+        ASSERT_FALSE(image.isNull()) << named.path << ": " << qPrintable(reader.errorString());
+        EXPECT_EQ(image.size(), QSize(named.width, named.height)) << named.path;
     }
+}
+
+// And nothing else is drawn: a picture the game never asks for (a misspelt
+// name, a second copy in another folder) is a picture the game goes without.
+TEST(GeneratedPictures, TheImagesFolderHoldsOnlyWhatTheTablesName) {
+    std::set<QString> named = {findGamePicture(tables::kHandCursor)};
+    for (const NamedPicture& picture : picturesTheTablesName())
+        named.insert(findGamePicture(picture.path));
+    for (const QString& file : filesBelow(gamePath("Images")))
+        EXPECT_TRUE(named.count(file)) << qPrintable(file) << " is named by no table";
 }
 
 TEST(GeneratedPictures, FoldersHaveTheLetterCaseTheGameWrites) {
@@ -94,19 +105,18 @@ TEST(GeneratedPictures, FoldersHaveTheLetterCaseTheGameWrites) {
 TEST(GeneratedPictures, PicturesOfEverySetAreToldApartAtPieceSize) {
     constexpr double kOtherColours = 0.45, kOtherLayout = 35;
     for (int board = 0; board < 3; ++board) {
-        for (const ExpectedSet& set : expectedSets(board)) {
+        for (const tables::PictureSet& set : tables::catalogue(board)) {
             std::vector<QImage> pictures;
-            for (const QString& file : set.symbols)
-                pictures.push_back(atPieceSize(loadPicture(set.folder + "/" + file)));
+            for (int k = 1; k <= set.symbols.size(); ++k)
+                pictures.push_back(atPieceSize(QImage(findGamePicture(set.symbolPath(k)))));
             for (size_t i = 0; i < pictures.size(); ++i) {
                 for (size_t j = i + 1; j < pictures.size(); ++j) {
                     const double colours = colourDistance(pictures[i], pictures[j]);
                     const double layout = meanDifference(pictures[i], pictures[j], 68);
                     EXPECT_TRUE(layout > kClearlyDifferent &&
                                 (colours >= kOtherColours || layout >= kOtherLayout))
-                        << qPrintable(set.folder) << ": " << qPrintable(set.symbols[int(i)])
-                        << " vs " << qPrintable(set.symbols[int(j)]) << ": colours " << colours
-                        << ", layout " << layout;
+                        << set.folder << ": " << set.symbols[int(i)] << " vs "
+                        << set.symbols[int(j)] << ": colours " << colours << ", layout " << layout;
                 }
             }
         }
@@ -114,45 +124,36 @@ TEST(GeneratedPictures, PicturesOfEverySetAreToldApartAtPieceSize) {
 }
 
 TEST(GeneratedPictures, ThumbnailsDifferFromEachOther) {
-    std::vector<ExpectedPicture> thumbs;
-    for (const ExpectedPicture& p : expectedOtherPictures())
-        if (p.width == twoPixelsPer15Twips(1080)) thumbs.push_back(p);
-    ASSERT_EQ(thumbs.size(), 10u);
+    std::set<QString> files;
+    for (int board = 0; board < tables::kBoardSizes; ++board)
+        for (const tables::PictureSet& set : tables::catalogue(board))
+            files.insert(findGamePicture(set.thumbnailPath()));
+    const std::vector<QString> thumbs(files.begin(), files.end());
     for (size_t i = 0; i < thumbs.size(); ++i)
         for (size_t j = i + 1; j < thumbs.size(); ++j)
-            EXPECT_GT(meanDifference(loadPicture(thumbs[i].path), loadPicture(thumbs[j].path)),
-                      kClearlyDifferent)
-                << qPrintable(thumbs[i].path) << " vs " << qPrintable(thumbs[j].path);
+            EXPECT_GT(meanDifference(QImage(thumbs[i]), QImage(thumbs[j])), kClearlyDifferent)
+                << qPrintable(thumbs[i]) << " vs " << qPrintable(thumbs[j]);
 }
 
 // Colours are written &H00BBGGRR& on the boards: a swapped byte order would
-// paint the dark-blue quarter's marker dark red.
+// paint the dark-blue quarter's marker dark red. A marker wears the colour of
+// the region its givens lie in.
 TEST(GeneratedPictures, MarkersCarryTheirRegionColours) {
-    const struct {
-        const char* file;
-        QColor colour;
-    } markers[] = {
-        {"Images/corner1.jpg", QColor(0, 0, 192)},
-        {"Images/corner2.jpg", QColor(0, 192, 192)},
-        {"Images/corner3.jpg", QColor(255, 128, 0)},
-        {"Images/corner4.jpg", QColor(0, 192, 0)},
-        {"Images/corner6x61.jpg", QColor(255, 128, 0)},
-        {"Images/corner6x62.jpg", QColor(0, 192, 192)},
-        {"Images/corner6x63.jpg", QColor(0, 192, 0)},
-        {"Images/corner6x64.jpg", QColor(192, 0, 0)},
-        {"Images/corner6x65.jpg", QColor(255, 128, 128)},
-        {"Images/corner6x66.jpg", QColor(0, 0, 192)},
-        {"Images/marker5x5.jpg", QColor(0, 0, 192)},
-    };
-    for (const auto& marker : markers) {
-        const QImage image = loadPicture(marker.file);
-        ASSERT_FALSE(image.isNull()) << marker.file;
-        // Below the shine, in the middle of the coloured tile.
-        const QColor seen = image.pixelColor(image.width() / 2, image.height() * 2 / 3);
-        const int distance = std::abs(seen.red() - marker.colour.red()) +
-                             std::abs(seen.green() - marker.colour.green()) +
-                             std::abs(seen.blue() - marker.colour.blue());
-        EXPECT_LT(distance, 90) << marker.file << " shows " << qPrintable(seen.name());
+    for (int size = 0; size < tables::kBoardSizes; ++size) {
+        const tables::BoardGeometry& board = tables::boardGeometry(size);
+        for (int i = 0; i < board.markerPictures.size(); ++i) {
+            const char* marker = board.markerPictures[i];
+            const QImage image(findGamePicture(marker));
+            ASSERT_FALSE(image.isNull()) << marker;
+            const std::uint32_t bbggrr = board.regions[i].colour;
+            const QColor colour(bbggrr & 0xFF, (bbggrr >> 8) & 0xFF, (bbggrr >> 16) & 0xFF);
+            // Below the shine, in the middle of the coloured tile.
+            const QColor seen = image.pixelColor(image.width() / 2, image.height() * 2 / 3);
+            const int distance = std::abs(seen.red() - colour.red()) +
+                                 std::abs(seen.green() - colour.green()) +
+                                 std::abs(seen.blue() - colour.blue());
+            EXPECT_LT(distance, 90) << marker << " shows " << qPrintable(seen.name());
+        }
     }
 }
 
@@ -161,31 +162,29 @@ TEST(GeneratedPictures, MarkersCarryTheirRegionColours) {
 // picture as the solution (a given piece) or is plainly empty.
 TEST(GeneratedPictures, RulesPuzzlesShowSomeOfTheirSolutionsPictures) {
     const struct {
-        const char *puzzle, *solution;
-        int n;
-        double pitch, side;
         int fewestGiven, mostGiven;  // the level the examples are made at
-    } boards[] = {{"4x4puzzle", "4x4solution", 4, 1800, 1560, 6, 8},
-                  {"5x5puzzle", "5x5solution", 5, 1440, 1140, 10, 13},
-                  {"6x6puzzle2", "6x6solution2", 6, 1200, 1020, 14, 19}};
-    for (const auto& board : boards) {
-        const QImage puzzle = loadPicture(QString("Images/%1.jpg").arg(board.puzzle));
-        const QImage solution = loadPicture(QString("Images/%1.jpg").arg(board.solution));
-        ASSERT_FALSE(puzzle.isNull() || solution.isNull()) << board.puzzle;
+    } givens[] = {{6, 8}, {10, 13}, {14, 19}};
+    for (int size = 0; size < tables::kBoardSizes; ++size) {
+        const tables::BoardGeometry& board = tables::boardGeometry(size);
+        const auto& example = tables::kRulesExamples[size];
+        const QImage puzzle(findGamePicture(example.puzzle.path));
+        const QImage solution(findGamePicture(example.solution.path));
+        ASSERT_FALSE(puzzle.isNull() || solution.isNull()) << example.puzzle.path;
         const double scale = puzzle.width() / 7560.0;
         int same = 0;
         for (int k = 0; k < board.n * board.n; ++k) {
-            const double left = (5760 + board.pitch * (k % board.n) - 5460) * scale;
-            const double top = (4200 + board.pitch * (k / board.n) - 3900) * scale;
-            const double s = board.side * scale;
+            const tables::Rect cell = board.cell(k % board.n, k / board.n);
+            const double left = (cell.left - 5460) * scale;
+            const double top = (cell.top - 3900) * scale;
+            const double s = cell.width * scale;
             // The lower left of the cell: clear of the given-cell marker.
             const QRect part(int(left + 0.1 * s), int(top + 0.4 * s), int(0.5 * s), int(0.5 * s));
             const double d = meanDifference(puzzle.copy(part), solution.copy(part));
             EXPECT_TRUE(d < 4 || d > kClearlyDifferent)
-                << board.puzzle << " cell " << k << ": " << d;
+                << example.puzzle.path << " cell " << k << ": " << d;
             same += d < 4;
         }
-        EXPECT_GE(same, board.fewestGiven) << board.puzzle;
-        EXPECT_LE(same, board.mostGiven) << board.puzzle;
+        EXPECT_GE(same, givens[size].fewestGiven) << example.puzzle.path;
+        EXPECT_LE(same, givens[size].mostGiven) << example.puzzle.path;
     }
 }

@@ -8,8 +8,6 @@
 #include <set>
 
 #include "board/board_screen.h"
-#include "board/catalogue.h"
-#include "board/picture_names.h"
 #include "board/register.h"
 #include "platform/fatal.h"
 #include "platform/files.h"
@@ -18,6 +16,7 @@
 #include "records/highscores.h"
 #include "records/inf_files.h"
 #include "shell/module1.h"
+#include "tables/pictures.h"
 
 using board::Board;
 using platform::PictureBox;
@@ -146,7 +145,7 @@ class BoardTests : public QObject {
     }
     // The pieces show the symbol files of the board's current set.
     static bool showsCurrentSet(const Board& b) {
-        const auto& set = board::catalogue(b.layout().boardsize).at(b.pictureset);
+        const auto& set = tables::catalogue(b.layout().boardsize)[b.pictureset];
         for (int p = 0; p < cells(b); ++p) {
             const QPixmap file =
                 platform::loadPicture(set.symbolPath(p / b.layout().n + 1), b.Image2(p).size());
@@ -200,11 +199,10 @@ class BoardTests : public QObject {
         }
         verifyFreshPuzzle(b, givens);
         // Thumbnail s stands for set s; the 4x4 logo comes after the sets.
-        const auto& sets = board::catalogue(size);
-        for (std::size_t s = 0; s < sets.size(); ++s)
-            QVERIFY(shows(b.Image4(int(s)), sets[s].thumbnailPath()));
-        QCOMPARE(b.Image4.has(int(sets.size())), size == 0);
-        if (size == 0) QVERIFY(shows(b.Image4(int(sets.size())), board::kLogoPicture));
+        const auto sets = tables::catalogue(size);
+        for (int s = 0; s < sets.size(); ++s) QVERIFY(shows(b.Image4(s), sets[s].thumbnailPath()));
+        QCOMPARE(b.Image4.has(sets.size()), size == 0);
+        if (size == 0) QVERIFY(shows(b.Image4(sets.size()), tables::kBoardLogo.path));
         const int cell = firstCell(b, false), piece = solutionPiece(b, cell);
         const auto& c = b.Image1(cell);
         QCOMPARE(b.childAt(centre(c)), &c);  // above the regions
@@ -248,16 +246,16 @@ class BoardTests : public QObject {
         for (int level = 0; level < 3; ++level) {
             const int size = 2 - level;
             const std::string name = board::boardLayout(size).screenName;
-            std::set<std::size_t> seen;
+            std::set<int> seen;
             for (int i = 0; i < 120; ++i) {
                 seen.insert(platform::screens::get<Board>(name).pictureset);
                 platform::screens::unload(name);
             }
-            const auto& sets = board::catalogue(size);
-            QVERIFY(seen.size() == sets.size() && *seen.rbegin() + 1 == sets.size());
+            const auto sets = tables::catalogue(size);
+            QVERIFY(int(seen.size()) == sets.size() && *seen.rbegin() + 1 == sets.size());
             for (const auto& set : sets) {
                 QVERIFY2(platform::findGameFile(set.thumbnailPath()), set.thumbnailPath().c_str());
-                for (std::size_t k = 1; k <= set.symbols.size(); ++k)
+                for (int k = 1; k <= set.symbols.size(); ++k)
                     QVERIFY2(platform::findGameFile(set.symbolPath(k)), set.symbolPath(k).c_str());
             }
             const bool timed = level != 0;
@@ -658,10 +656,10 @@ class BoardTests : public QObject {
         panel->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(panel->text(QAccessible::Name), QString("Show Rules"));
 
-        const auto& set = board::catalogue(1).at(b.pictureset);
+        const auto& set = tables::catalogue(1)[b.pictureset];
         const int given = firstCell(b, true), cell = firstCell(b, false);
         const int piece = solutionPiece(b, cell);
-        const QString picture = QString::fromStdString(board::pictureName(set, piece / 5 + 1));
+        const QString picture = tables::pictureName(set.kind, piece / 5);
         QCOMPARE(said(b.Image1(cell)),
                  QString("Row %1, column %2: empty").arg(cell / 5 + 1).arg(cell % 5 + 1));
         dragTo(b, piece, b.Image1(cell));

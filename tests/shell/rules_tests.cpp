@@ -2,23 +2,13 @@
 #include "platform/files.h"
 #include "screen_fixture.h"
 #include "shell/morvelrules.h"
+#include "tables/pictures.h"
+#include "tables/texts.h"
 
 using namespace shell_test;
 using shell::Morvelrules;
 
 namespace {
-
-struct Page {
-    const char *heading, *ruleEnding, *puzzle, *solution;
-};
-const Page kPages[] = {
-    {"4x4 Board", "each quarter are different.", "images\\4x4puzzle.jpg",
-     "images\\4x4solution.jpg"},
-    {"5x5 Board", "along each diagonal are different.", "images\\5x5puzzle.jpg",
-     "images\\5x5solution.jpg"},
-    {"6x6 Board", "six coloured rectangles are different.", "images\\6x6puzzle2.jpg",
-     "images\\6x6solution2.jpg"},
-};
 
 Morvelrules& rules() {
     return screen<Morvelrules>();
@@ -35,12 +25,15 @@ bool shows(const platform::PictureBox& box, const char* file) {
            box.picture().cacheKey() == platform::loadPicture(file, box.size()).cacheKey();
 }
 
+// Page k is the board of size k: its button is the one selected, the heading
+// repeats the button's caption, and the rule and the examples are that size's
+// (the sentence the board itself shows).
 void checkPage(int page) {
-    QVERIFY(rules().Option1(page).Value());
-    QCOMPARE(rules().Label1(6).Caption(), std::string(kPages[page].heading));
-    QVERIFY(rules().Label1(2).Caption().find(kPages[page].ruleEnding) != std::string::npos);
-    QVERIFY(shows(*rules().Image3, kPages[page].puzzle));
-    QVERIFY(shows(*rules().Image4, kPages[page].solution));
+    for (int k = 0; k < 3; ++k) QCOMPARE(rules().Option1(k).Value(), k == page);
+    QCOMPARE(rules().Label1(6).Caption(), rules().Option1(page).text().toStdString());
+    QCOMPARE(rules().Label1(2).Caption(), std::string(tables::kRules[page]));
+    QVERIFY(shows(*rules().Image3, tables::kRulesExamples[page].puzzle.path));
+    QVERIFY(shows(*rules().Image4, tables::kRulesExamples[page].solution.path));
 }
 
 }  // namespace
@@ -58,8 +51,8 @@ class RulesTests : public ScreenTest {
             openRules();
             QCOMPARE(sounds, clickIfOn);
             checkPage(0);  // the second time too, though it was left on page 1
-            QVERIFY(shows(rules().Image1(0), "Images\\pimbalo2.jpg"));
-            QVERIFY(shows(*rules().Image2, "Images\\logo2.jpg"));
+            QVERIFY(shows(rules().Image1(0), tables::kRulesPicture.path));
+            QVERIFY(shows(*rules().Image2, tables::kMascot.path));
             // The standard full size, centred on 1280 x 1024 pixels.
             QCOMPARE(QPointF(rules().Left(), rules().Top()), QPointF(1920, 1920));
 
