@@ -94,7 +94,6 @@ BoardLayout make4x4() {
     BoardLayout b;
     b.boardsize = 0;
     b.n = 4;
-    b.screenName = "jigsaw";
     b.gridLeft = 5760;
     b.gridTop = 4200;
     b.pitch = 1800;
@@ -122,7 +121,6 @@ BoardLayout make5x5() {
     BoardLayout b;
     b.boardsize = 1;
     b.n = 5;
-    b.screenName = "jigsaw5x5";
     b.gridLeft = 5760;
     b.gridTop = 4200;
     b.pitch = 1440;
@@ -148,7 +146,6 @@ BoardLayout make6x6() {
     BoardLayout b;
     b.boardsize = 2;
     b.n = 6;
-    b.screenName = "jigsaw6x6";
     b.gridLeft = 5760;
     b.gridTop = 4200;
     b.pitch = 1200;

@@ -44,7 +44,6 @@ struct LabelDesign {
 struct BoardLayout {
     int boardsize;  // 0 = 4x4, 1 = 5x5, 2 = 6x6
     int n;
-    std::string screenName;
 
     // Grid: cell (x, y) lies at gridLeft + pitch*x, gridTop + pitch*y.
     float gridLeft;

@@ -28,10 +28,10 @@ const RulesPage& rulesPage(int page) {
     return pages[page];
 }
 
-Morvelrules::Morvelrules() : Form(kName, platform::FormKind::FullSize) {
+Morvelrules::Morvelrules() : Form(kScreen, platform::FormKind::FullSize) {
     buildLayout();
     // It covers the options screen, which stays loaded beneath it.
-    keepAbove([] { return platform::screens::loaded("Startplay2"); });
+    keepAbove([] { return platform::screens::loaded(tables::Screen::Startplay2); });
     Option1.forEach([this](int k, platform::OptionButton& option) {
         option.onSelect = [this, k] { showPage(k); };
     });
@@ -97,7 +97,7 @@ void Morvelrules::showPage(int page) {
 }
 
 void Morvelrules::Label3_Click() {
-    platform::screens::unload(kName);
+    platform::screens::unload(kScreen);
     if (module1().playsound == 1) playwav("wav\\click.wav");
 }
 

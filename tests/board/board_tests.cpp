@@ -37,16 +37,17 @@ class BoardTests : public QObject {
         m.level = level;
         m.timerson = timerson;
         m.playsound = 1;
-        const std::string name = board::boardLayout(size).screenName;
-        platform::screens::show(name);
-        auto& b = platform::screens::get<Board>(name);
+        const tables::Screen screen = tables::boardScreen(size);
+        platform::screens::show(screen);
+        auto& b = platform::screens::get<Board>(screen);
         if (!QTest::qWaitForWindowExposed(&b)) throw std::runtime_error("board not exposed");
         takeSounds();
         return b;
     }
     static int cells(const Board& b) { return b.layout().n * b.layout().n; }
     static records::Highscores* scores() {
-        return static_cast<records::Highscores*>(platform::screens::loaded("highscores"));
+        return static_cast<records::Highscores*>(
+            platform::screens::loaded(tables::Screen::highscores));
     }
 
     static QPoint pixel(float x, float y) { return {platform::toPixels(x), platform::toPixels(y)}; }
@@ -164,16 +165,15 @@ class BoardTests : public QObject {
         board::registerScreens();
         records::registerScreens();
         // "Exit" goes back to the options screen; a plain stand-in does here.
-        platform::screens::registerScreen("Startplay2", [] {
-            return new platform::Form("Startplay2", platform::FormKind::Fixed);
+        platform::screens::registerScreen(tables::Screen::Startplay2, [] {
+            return new platform::Form(tables::Screen::Startplay2, platform::FormKind::Fixed);
         });
         platform::setFatalHandler(
             [](const QString& m) { throw std::runtime_error(m.toStdString()); });
         platform::setSoundObserver([](const std::string& path) { heard.push_back(path); });
     }
     void cleanup() {
-        for (const char* name : {"jigsaw", "jigsaw5x5", "jigsaw6x6", "highscores", "Startplay2"})
-            platform::screens::unload(name);
+        for (const auto& entry : tables::kScreens) platform::screens::unload(entry.screen);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
@@ -247,11 +247,11 @@ class BoardTests : public QObject {
         const QColor colours[] = {{0, 0, 255}, {255, 0, 255}, {255, 0, 0}};
         for (int level = 0; level < 3; ++level) {
             const int size = 2 - level;
-            const std::string name = board::boardLayout(size).screenName;
+            const tables::Screen screen = tables::boardScreen(size);
             std::set<std::size_t> seen;
             for (int i = 0; i < 120; ++i) {
-                seen.insert(platform::screens::get<Board>(name).pictureset);
-                platform::screens::unload(name);
+                seen.insert(platform::screens::get<Board>(screen).pictureset);
+                platform::screens::unload(screen);
             }
             const auto& sets = board::catalogue(size);
             QVERIFY(seen.size() == sets.size() && *seen.rbegin() + 1 == sets.size());
@@ -491,11 +491,11 @@ class BoardTests : public QObject {
             click(b, b.Label3(FastestTimes));
             takeSounds();
             byWindowManager ? void(b.close()) : click(b, b.Label3(Exit));
-            QVERIFY(!platform::screens::isLoaded("jigsaw6x6") && !scores());
-            QVERIFY(platform::screens::get("Startplay2").isVisible());
-            platform::screens::unload("Startplay2");
+            QVERIFY(!platform::screens::isLoaded(tables::Screen::jigsaw6x6) && !scores());
+            QVERIFY(platform::screens::get(tables::Screen::Startplay2).isVisible());
+            platform::screens::unload(tables::Screen::Startplay2);
             QCOMPARE(takeSounds(), Sounds{"wav\\click.wav"});
-            records::LastGame saved;
+            tables::Options saved;
             records::FastestTimes tables;
             QVERIFY(records::loadLastGame(records::kLastGameFile, saved) &&
                     records::loadHighscores(records::kHighscoreFile, tables));
