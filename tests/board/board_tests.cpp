@@ -242,7 +242,7 @@ class BoardTests : public QObject {
 
     // Each size once: a random set drawn from the whole catalogue and no
     // further (the 6x6 board never starts with set 6 or 7), every file of the
-    // catalogue present, and the level and clock options shown.
+    // catalogue present, the board's name, and the level and clock options shown.
     void startUpDrawsASetAndShowsTheOptions() {
         const QColor colours[] = {{0, 0, 255}, {255, 0, 255}, {255, 0, 0}};
         for (int level = 0; level < 3; ++level) {
@@ -262,6 +262,9 @@ class BoardTests : public QObject {
             }
             const bool timed = level != 0;
             Board& b = open(size, level, timed);
+            // The window carries the size's own name, by which tools find it.
+            const char* const names[] = {"jigsaw", "jigsaw5x5", "jigsaw6x6"};
+            QCOMPARE(b.objectName(), QString(names[size]));
             QCOMPARE(b.Label1(0).Caption(), std::to_string(level + 1));
             QVERIFY(b.Label1(0).BackColor() == colours[level] && b.BackColor() == colours[level]);
             for (int i = 0; i < 3; ++i) QCOMPARE(b.Label2(i).Visible(), timed);
