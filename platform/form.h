@@ -95,6 +95,8 @@ class Form : public QWidget {
     QSize centredWithFrame_;  // the frame counted when it was last centred
 };
 
+// Screens are known by their ids in the screens' table; the program registers
+// a factory for each, so a screen shows another without linking its code.
 namespace screens {
 
 using Factory = std::function<Form*()>;
