@@ -26,6 +26,6 @@ int main(int argc, char* argv[]) {
     shell::registerScreens();
     board::registerScreens();
     records::registerScreens();
-    platform::screens::show(shell::Titlefrm::kName);
+    platform::screens::show(shell::Titlefrm::kScreen);
     return application.exec();
 }

@@ -44,22 +44,22 @@ void warmUp() {
 
 // Milliseconds from nothing loaded to the board shown and painted once
 // (into a picture, so the platform's own drawing is left out).
-double openOnce(const std::string& name) {
+double openOnce(tables::Screen screen) {
     QElapsedTimer clock;
     clock.start();
-    platform::screens::show(name);
-    platform::screens::get(name).grab();
+    platform::screens::show(screen);
+    platform::screens::get(screen).grab();
     const double ms = clock.nsecsElapsed() / 1e6;
-    platform::screens::unload(name);
+    platform::screens::unload(screen);
     flushDeletes();
     return ms;
 }
 
 // Microseconds per pointer move of a left-button drag over the grid, the
 // repaint it causes included.
-double dragMove(const std::string& name, int moves) {
-    platform::screens::show(name);
-    auto& b = platform::screens::get<board::Board>(name);
+double dragMove(tables::Screen screen, int moves) {
+    platform::screens::show(screen);
+    auto& b = platform::screens::get<board::Board>(screen);
     if (!QTest::qWaitForWindowExposed(&b)) return -1;
     int piece = 0;
     while (!b.Image2(piece).Enabled()) ++piece;
@@ -77,7 +77,7 @@ double dragMove(const std::string& name, int moves) {
     }
     const double us = clock.nsecsElapsed() / 1e3 / moves;
     QTest::mouseRelease(w, Qt::LeftButton, {}, QPoint(500, 400));
-    platform::screens::unload(name);
+    platform::screens::unload(screen);
     flushDeletes();
     return us;
 }
@@ -94,13 +94,13 @@ int main(int argc, char** argv) {
 
     std::printf("%-10s %12s %14s %16s\n", "board", "first open", "open (median)", "drag move");
     for (int size = 0; size < 3; ++size) {
-        const std::string name = board::boardLayout(size).screenName;
-        const double first = openOnce(name);  // pictures read from disk
+        const tables::Screen screen = tables::boardScreen(size);
+        const double first = openOnce(screen);  // pictures read from disk
         std::vector<double> runs;
-        for (int i = 0; i < 30; ++i) runs.push_back(openOnce(name));
-        const double move = dragMove(name, 2000);
-        std::printf("%-10s %9.2f ms %11.2f ms %13.1f us\n", name.c_str(), first, median(runs),
-                    move);
+        for (int i = 0; i < 30; ++i) runs.push_back(openOnce(screen));
+        const double move = dragMove(screen, 2000);
+        std::printf("%-10s %9.2f ms %11.2f ms %13.1f us\n", tables::screenName(screen), first,
+                    median(runs), move);
     }
     return 0;
 }

@@ -36,7 +36,8 @@ int main() {
     long checksum = 0;  // keeps the work from being optimised away
     for (int size = 0; size < 3; ++size) {
         engine::Game game(size, board, rnd);
-        const engine::Options options{0, 0, 1};
+        engine::Options options;
+        options.timerson = 1;
         const auto start = std::chrono::steady_clock::now();
         for (int round = 0; round < kRounds; ++round) {
             game.setsolution();

@@ -51,11 +51,11 @@ void click(QWidget& control) {
 }
 
 board::Board& openBoard(int size) {
-    const std::string name = board::boardLayout(size).screenName;
-    platform::screens::show(name);
-    auto& b = platform::screens::get<board::Board>(name);
+    const tables::Screen screen = tables::boardScreen(size);
+    platform::screens::show(screen);
+    auto& b = platform::screens::get<board::Board>(screen);
     if (!QTest::qWaitForWindowExposed(&b))
-        std::fprintf(stderr, "%s was never shown\n", name.c_str());
+        std::fprintf(stderr, "%s was never shown\n", tables::screenName(screen));
     click(b.Label3(kSwitchPanel));  // the thumbnails take the rules' place
     return b;
 }
@@ -75,7 +75,7 @@ void play(int size, int newPuzzles, int setChanges) {
             --setChanges;
         }
     }
-    platform::screens::unload(b.screenName());
+    platform::screens::unload(b.screen());
     settle();
 }
 
@@ -98,7 +98,7 @@ int main(int argc, char** argv) {
     for (int size = 0; size < 3; ++size) {
         auto& b = openBoard(size);
         clickEverySet(b);
-        platform::screens::unload(b.screenName());
+        platform::screens::unload(b.screen());
         settle();
     }
     const long before = residentKb();

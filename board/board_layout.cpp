@@ -62,11 +62,10 @@ std::vector<LabelDesign> labelsWith(const LabelChanges& c, const std::string& ru
     return labels;
 }
 
-BoardLayout make(int boardsize, const char* screenName, const LabelChanges& changes) {
+BoardLayout make(int boardsize, const LabelChanges& changes) {
     BoardLayout b;
     static_cast<tables::BoardGeometry&>(b) = tables::boardGeometry(boardsize);
     b.boardsize = boardsize;
-    b.screenName = screenName;
     b.pictureSets = tables::catalogue(boardsize).size();
     b.rulesText = tables::kRules[boardsize];
     b.labels = labelsWith(changes, b.rulesText);
@@ -77,9 +76,9 @@ BoardLayout make(int boardsize, const char* screenName, const LabelChanges& chan
 
 const BoardLayout& boardLayout(int boardsize) {
     static const std::array<BoardLayout, 3> layouts = {
-        make(0, "jigsaw", {4920, 8880, 4080, 5760, {300, 6540, 4905, 4155}, 3480, 26.25}),
-        make(1, "jigsaw5x5", {5040, 9120, 4200, 5880, {180, 6600, 5265, 3075}, 3240, 26.25}),
-        make(2, "jigsaw6x6", {4740, 9000, 3960, 5520, {300, 6240, 4785, 3435}, 3525, 24}),
+        make(0, {4920, 8880, 4080, 5760, {300, 6540, 4905, 4155}, 3480, 26.25}),
+        make(1, {5040, 9120, 4200, 5880, {180, 6600, 5265, 3075}, 3240, 26.25}),
+        make(2, {4740, 9000, 3960, 5520, {300, 6240, 4785, 3435}, 3525, 24}),
     };
     return layouts.at(boardsize);
 }

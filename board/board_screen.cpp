@@ -53,7 +53,7 @@ void place(Control& control, const Rect& r) {
 }  // namespace
 
 Board::Board(const BoardLayout& layout)
-    : Form(layout.screenName, platform::FormKind::FullSize),
+    : Form(tables::boardScreen(layout.boardsize), platform::FormKind::FullSize),
       Timer1(this, kTimerInterval),
       Timer2(this, kTimerInterval),
       layout_(layout),
@@ -263,9 +263,9 @@ void Board::Timer2_Timer() {
     showMarks();  // the verdict may have hidden the command the ring was on
 }
 
+// A copy, as the options stood when the procedure was called.
 engine::Options Board::options() const {
-    const auto& m = shell::module1();
-    return {m.level, m.playsound, m.timerson};
+    return shell::module1();
 }
 
 void Board::play(const char* path) const {

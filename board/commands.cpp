@@ -14,7 +14,7 @@ namespace text = tables::board_text;
 enum Command { Exit, StartAgain, NewPuzzle, FastestTimes, ShowSolution, SwitchPanel };
 
 void closeFastestTimes() {
-    platform::screens::unload(records::Highscores::kName);
+    platform::screens::unload(records::Highscores::kScreen);
 }
 
 }  // namespace
@@ -51,13 +51,12 @@ void Board::Label3_Click(int index) {
 void Board::exitBoard() {
     const auto& m = shell::module1();
     try {
-        records::saveBoth(records::kLastGameFile, records::kHighscoreFile,
-                          {m.playsound, m.timerson, m.hidedesktop, m.boardsize}, m);
+        records::saveBoth(records::kLastGameFile, records::kHighscoreFile, m, m);
     } catch (...) {
     }
-    platform::screens::show("Startplay2");
+    platform::screens::show(tables::Screen::Startplay2);
     closeFastestTimes();
-    platform::screens::unload(screenName());
+    platform::screens::unload(screen());
     play("wav\\click.wav");
 }
 

@@ -146,7 +146,7 @@ void Board::chooseAtRing() {
 // closes them is a key away.
 bool Board::eventFilter(QObject* watched, QEvent* e) {
     if (e->type() == QEvent::KeyPress && !QApplication::focusWidget() &&
-        watched == platform::screens::loaded(records::Highscores::kName)) {
+        watched == platform::screens::loaded(records::Highscores::kScreen)) {
         keyPressEvent(static_cast<QKeyEvent*>(e));
         return e->isAccepted();
     }
@@ -163,9 +163,9 @@ void Board::runCommand(int command) {
         Image4_Click(command - kThumbnail);
     else
         Label3_Click(command);
-    if (auto* scores = platform::screens::loaded(records::Highscores::kName))
+    if (auto* scores = platform::screens::loaded(records::Highscores::kScreen))
         scores->installEventFilter(this);
-    if (platform::screens::loaded(screenName()) == this) showMarks();
+    if (platform::screens::loaded(screen()) == this) showMarks();
 }
 
 std::vector<int> Board::keyboardCommands() const {

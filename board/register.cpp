@@ -9,7 +9,7 @@ namespace board {
 void registerScreens() {
     for (int size = 0; size < 3; ++size) {
         const BoardLayout& layout = boardLayout(size);
-        platform::screens::registerScreen(layout.screenName,
+        platform::screens::registerScreen(tables::boardScreen(size),
                                           [&layout] { return new Board(layout); });
     }
 }

@@ -11,15 +11,13 @@
 #include "engine/board_table.h"
 #include "engine/board_view.h"
 #include "engine/random_source.h"
+#include "tables/options.h"
 
 namespace engine {
 
-// The shared options the procedures read (on/off values count as on only when 1).
-struct Options {
-    std::int16_t level = 0;
-    std::int16_t playsound = 0;
-    std::int16_t timerson = 0;
-};
+// The shared options the procedures read: level, playsound and timerson (on/off
+// values count as on only when 1).
+using tables::Options;
 
 // Window outer size, for the drag's edge tests.
 struct WindowSize {

@@ -8,7 +8,9 @@
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
-#include <map>
+#include <array>
+#include <optional>
+#include <utility>
 
 #include "platform/controls.h"
 #include "platform/desktop.h"
@@ -18,10 +20,10 @@
 namespace platform {
 
 namespace {
-// The name of the full-size screen shown last: an overlay lies over it.
-std::string& lastFullSizeShown() {
-    static std::string name;
-    return name;
+// The full-size screen shown last: an overlay lies over it.
+std::optional<tables::Screen>& lastFullSizeShown() {
+    static std::optional<tables::Screen> screen;
+    return screen;
 }
 
 // The frame the window manager gave the last framed window. Every framed
@@ -54,10 +56,11 @@ Qt::WindowFlags flagsFor(FormKind kind) {
 }
 }  // namespace
 
-Form::Form(std::string name, FormKind kind)
-    : QWidget(nullptr, flagsFor(kind)), name_(std::move(name)), kind_(kind) {
+Form::Form(tables::Screen screen, FormKind kind)
+    : QWidget(nullptr, flagsFor(kind)), screen_(screen), kind_(kind) {
     setAttribute(Qt::WA_DeleteOnClose, false);
-    setObjectName(QString::fromStdString(name_));  // for debuggers and test tools
+    // For debuggers and test tools.
+    setObjectName(QString::fromLatin1(tables::screenName(screen_)));
     setWindowTitle(QStringLiteral(" "));
     setMouseTracking(true);
     setAutoFillBackground(true);
@@ -66,7 +69,10 @@ Form::Form(std::string name, FormKind kind)
         client_ = new QWidget(this);
         client_->move(toPixels(kOverlayBorderTwips), toPixels(kOverlayBorderTwips));
         client_->setMouseTracking(true);
-        keepAbove([] { return screens::loaded(lastFullSizeShown()); });
+        keepAbove([] {
+            const auto under = lastFullSizeShown();
+            return under ? screens::loaded(*under) : nullptr;
+        });
     }
 }
 
@@ -178,7 +184,7 @@ void Form::tieToOwner() {
 
 void Form::Show() {
     if (!isVisible()) tieToOwner();
-    if (kind_ == FormKind::FullSize) lastFullSizeShown() = name_;
+    if (kind_ == FormKind::FullSize) lastFullSizeShown() = screen_;
     show();
     if (!fontsSettled_) {
         settleFonts(*this);
@@ -221,56 +227,57 @@ void Form::closeEvent(QCloseEvent* e) {
 namespace screens {
 namespace {
 struct Registry {
-    std::map<std::string, Factory> factories;
-    std::map<std::string, Form*> loaded;
+    std::array<Factory, tables::kScreenCount> factories;
+    std::array<Form*, tables::kScreenCount> loaded{};
     std::function<void()> endHandler;
 };
 Registry& registry() {
     static Registry r;
     return r;
 }
+std::size_t slot(tables::Screen screen) {
+    return static_cast<std::size_t>(screen);
+}
 }  // namespace
 
-void registerScreen(const std::string& name, Factory factory) {
-    registry().factories[name] = std::move(factory);
+void registerScreen(tables::Screen screen, Factory factory) {
+    registry().factories.at(slot(screen)) = std::move(factory);
 }
 
-bool isRegistered(const std::string& name) {
-    return registry().factories.count(name) != 0;
+bool isRegistered(tables::Screen screen) {
+    return static_cast<bool>(registry().factories.at(slot(screen)));
 }
 
-Form& get(const std::string& name) {
+Form& get(tables::Screen screen) {
     auto& r = registry();
-    if (auto it = r.loaded.find(name); it != r.loaded.end()) return *it->second;
-    auto factory = r.factories.find(name);
-    if (factory == r.factories.end())
-        throw std::logic_error("screen " + name + " is not part of this program");
-    Form* form = factory->second();
+    if (Form* form = r.loaded.at(slot(screen))) return *form;
+    const Factory& factory = r.factories[slot(screen)];
+    if (!factory)
+        throw std::logic_error(std::string("screen ") + tables::screenName(screen) +
+                               " is not part of this program");
+    Form* form = factory();
     // Registered before its start-up runs, so the start-up can use itself.
-    r.loaded[name] = form;
+    r.loaded[slot(screen)] = form;
     form->Form_Load();
     return *form;
 }
 
-Form* loaded(const std::string& name) {
-    auto it = registry().loaded.find(name);
-    return it == registry().loaded.end() ? nullptr : it->second;
+Form* loaded(tables::Screen screen) {
+    return registry().loaded.at(slot(screen));
 }
 
-bool isLoaded(const std::string& name) {
-    return loaded(name) != nullptr;
+bool isLoaded(tables::Screen screen) {
+    return loaded(screen) != nullptr;
 }
 
-void show(const std::string& name) {
-    get(name).Show();
+void show(tables::Screen screen) {
+    get(screen).Show();
 }
 
-void unload(const std::string& name) {
-    auto& r = registry();
-    auto it = r.loaded.find(name);
-    if (it == r.loaded.end()) return;
-    Form* form = it->second;
-    r.loaded.erase(it);
+void unload(tables::Screen screen) {
+    Form*& slotted = registry().loaded.at(slot(screen));
+    Form* form = std::exchange(slotted, nullptr);
+    if (!form) return;
     form->hide();
     // Its timers stop now; the widgets go once the current event is handled,
     // since the handler that unloads a screen may be one of its own.
@@ -280,7 +287,7 @@ void unload(const std::string& name) {
 
 void endProgram() {
     auto& r = registry();
-    while (!r.loaded.empty()) unload(r.loaded.begin()->first);
+    for (const auto& entry : tables::kScreens) unload(entry.screen);
     if (r.endHandler)
         r.endHandler();
     else

@@ -5,7 +5,8 @@
 // from the designed state; shown screens stack modeless, the last on top.
 #include <QWidget>
 #include <functional>
-#include <string>
+
+#include "tables/screens.h"
 
 namespace platform {
 
@@ -23,8 +24,8 @@ constexpr float kOverlayBorderTwips = 75.0f;
 class Form : public QWidget {
     Q_OBJECT
   public:
-    Form(std::string name, FormKind kind);
-    const std::string& screenName() const { return name_; }
+    Form(tables::Screen screen, FormKind kind);
+    tables::Screen screen() const { return screen_; }
     FormKind kind() const { return kind_; }
 
     // The screen's start-up; runs once per load, before it is shown.
@@ -82,7 +83,7 @@ class Form : public QWidget {
     void placeCentred();
     void tieToOwner();
 
-    std::string name_;
+    tables::Screen screen_;
     FormKind kind_;
     QWidget* client_ = this;
     QColor back_;
@@ -94,24 +95,26 @@ class Form : public QWidget {
     QSize centredWithFrame_;  // the frame counted when it was last centred
 };
 
+// Screens are known by their ids in the screens' table; the program registers
+// a factory for each, so a screen shows another without linking its code.
 namespace screens {
 
 using Factory = std::function<Form*()>;
-void registerScreen(const std::string& name, Factory factory);
-bool isRegistered(const std::string& name);
+void registerScreen(tables::Screen screen, Factory factory);
+bool isRegistered(tables::Screen screen);
 
 // The screen, loading it (running Form_Load) when it is not loaded.
-Form& get(const std::string& name);
+Form& get(tables::Screen screen);
 template <class T>
-T& get(const std::string& name) {
-    return static_cast<T&>(get(name));
+T& get(tables::Screen screen) {
+    return static_cast<T&>(get(screen));
 }
 // The screen if loaded, else nullptr; never loads.
-Form* loaded(const std::string& name);
-bool isLoaded(const std::string& name);
+Form* loaded(tables::Screen screen);
+bool isLoaded(tables::Screen screen);
 
-void show(const std::string& name);
-void unload(const std::string& name);
+void show(tables::Screen screen);
+void unload(tables::Screen screen);
 // Ends the game: every screen goes at once, with no further handling.
 void endProgram();
 // Called instead of quitting the application when endProgram runs (tests).

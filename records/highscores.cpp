@@ -88,7 +88,7 @@ void skipOnError(Step step) {
 }  // namespace
 
 Highscores::Highscores()
-    : Form(kName, platform::FormKind::Overlay), Timer1(this, kNameCopyIntervalMs) {
+    : Form(kScreen, platform::FormKind::Overlay), Timer1(this, kNameCopyIntervalMs) {
     buildLayout();
     Timer1.onTimer = [this] { Timer1_Timer(); };
 }
@@ -202,7 +202,7 @@ void Highscores::copyTypedName() {
 void Highscores::Label3_Click() {
     // The last keys may have come after the latest copy.
     copyTypedName();
-    platform::screens::unload(kName);
+    platform::screens::unload(kScreen);
 }
 
 // Closing the window through the desktop keeps the typed name, as "Continue" does.
@@ -215,12 +215,12 @@ void Highscores::Timer1_Timer() {
 }
 
 Highscores& highscores() {
-    if (!platform::screens::isRegistered(Highscores::kName)) registerScreens();
-    return platform::screens::get<Highscores>(Highscores::kName);
+    if (!platform::screens::isRegistered(Highscores::kScreen)) registerScreens();
+    return platform::screens::get<Highscores>(Highscores::kScreen);
 }
 
 void registerScreens() {
-    platform::screens::registerScreen(Highscores::kName, [] { return new Highscores; });
+    platform::screens::registerScreen(Highscores::kScreen, [] { return new Highscores; });
 }
 
 void openForNameEntry(FastestTimes& tables, int boardsize, const NewEntry& entry) {
@@ -231,8 +231,8 @@ void openForNameEntry(FastestTimes& tables, int boardsize, const NewEntry& entry
     // A screen still open for viewing wears the board's colour: start it
     // afresh. One taking a name keeps its box, so a second record in a row
     // (a picture-set click leaves the screen open) keeps what was typed.
-    const auto* open = static_cast<Highscores*>(platform::screens::loaded(Highscores::kName));
-    if (open && !open->nameEntryOpen()) platform::screens::unload(Highscores::kName);
+    const auto* open = static_cast<Highscores*>(platform::screens::loaded(Highscores::kScreen));
+    if (open && !open->nameEntryOpen()) platform::screens::unload(Highscores::kScreen);
     Highscores& screen = highscores();
     screen.fill(tables, boardsize);
     screen.takeNameFor(tables, entry);

@@ -21,7 +21,7 @@ struct NewEntry {
 
 class Highscores : public platform::Form {
   public:
-    static constexpr const char* kName = "highscores";
+    static constexpr tables::Screen kScreen = tables::Screen::highscores;
     Highscores();
     void Form_Load() override;
     void Form_QueryUnload() override;

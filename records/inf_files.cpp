@@ -153,7 +153,7 @@ void appendLine(std::string& out, std::string_view line) {
 
 }  // namespace
 
-bool loadLastGameText(std::string_view text, LastGame& options) {
+bool loadLastGameText(std::string_view text, tables::Options& options) {
     std::int16_t* const fields[kLastGameFields] = {&options.playsound, &options.timerson,
                                                    &options.hidedesktop, &options.boardsize};
     Lines lines(text);
@@ -165,11 +165,11 @@ bool loadLastGameText(std::string_view text, LastGame& options) {
     return true;
 }
 
-bool loadLastGame(std::istream& in, LastGame& options) {
+bool loadLastGame(std::istream& in, tables::Options& options) {
     return loadLastGameText(wholeStream(in), options);
 }
 
-bool loadLastGame(const std::string& path, LastGame& options) {
+bool loadLastGame(const std::string& path, tables::Options& options) {
     std::string text;
     const bool whole = readWholeFile(path, text);
     return loadLastGameText(text, options) && whole;
@@ -202,12 +202,12 @@ bool loadHighscores(const std::string& path, FastestTimes& tables) {
     return loadHighscoresText(text, tables) && whole;
 }
 
-bool loadBoth(const std::string& lastgamePath, const std::string& highscorePath, LastGame& options,
-              FastestTimes& tables) {
+bool loadBoth(const std::string& lastgamePath, const std::string& highscorePath,
+              tables::Options& options, FastestTimes& tables) {
     return loadLastGame(lastgamePath, options) && loadHighscores(highscorePath, tables);
 }
 
-std::string lastGameText(const LastGame& options) {
+std::string lastGameText(const tables::Options& options) {
     std::string out;
     for (std::int16_t value :
          {options.playsound, options.timerson, options.hidedesktop, options.boardsize}) {
@@ -243,7 +243,7 @@ FastestTimes tablesToSave(const std::string& highscorePath, const FastestTimes& 
     return toSave;
 }
 
-bool saveLastGame(const std::string& path, const LastGame& options) {
+bool saveLastGame(const std::string& path, const tables::Options& options) {
     return replaceFile(path, lastGameText(options));
 }
 
@@ -252,7 +252,7 @@ bool saveHighscores(const std::string& path, const FastestTimes& tables) {
 }
 
 bool saveBoth(const std::string& lastgamePath, const std::string& highscorePath,
-              const LastGame& options, const FastestTimes& tables) {
+              const tables::Options& options, const FastestTimes& tables) {
     return saveLastGame(lastgamePath, options) &&
            saveHighscores(highscorePath, tablesToSave(highscorePath, tables));
 }

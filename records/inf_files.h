@@ -20,6 +20,7 @@
 #include <string_view>
 
 #include "records/fastest_times.h"
+#include "tables/options.h"
 
 namespace records {
 
@@ -29,22 +30,17 @@ inline constexpr char kHighscoreFile[] = "highscore.inf";
 
 constexpr int kLastGameFields = 4;
 
-// The four saved options, in file order. level is never saved.
-struct LastGame {
-    std::int16_t playsound = 0;
-    std::int16_t timerson = 0;
-    std::int16_t hidedesktop = 0;
-    std::int16_t boardsize = 0;
-};
-
-// Loads read the fields in file order into the struct given and stop at the
+// lastgame.inf holds four of the shared options, in this order: playsound,
+// timerson, hidedesktop and boardsize. level is never saved, nor read.
+//
+// Loads read the fields in file order into the options given and stop at the
 // end of the file: fields read before that keep their new values, the others
 // keep the values they had. They return true only when every field was read
 // (a missing or unreadable file reads no field). Anything after the last
 // field is ignored.
-bool loadLastGameText(std::string_view text, LastGame& options);
-bool loadLastGame(std::istream& in, LastGame& options);
-bool loadLastGame(const std::string& path, LastGame& options);
+bool loadLastGameText(std::string_view text, tables::Options& options);
+bool loadLastGame(std::istream& in, tables::Options& options);
+bool loadLastGame(const std::string& path, tables::Options& options);
 
 // Also sets tables.fieldsread to the number of fields taken (0..90). Nothing
 // else is checked: tables out of order, or names beside empty entries, are
@@ -56,11 +52,11 @@ bool loadHighscores(const std::string& path, FastestTimes& tables);
 // The title screen's start-up read: lastgame.inf, then highscore.inf only if
 // the first was complete. Returns true when both were complete; loadfailed is
 // its negation (1 when false).
-bool loadBoth(const std::string& lastgamePath, const std::string& highscorePath, LastGame& options,
-              FastestTimes& tables);
+bool loadBoth(const std::string& lastgamePath, const std::string& highscorePath,
+              tables::Options& options, FastestTimes& tables);
 
 // The exact bytes of each file.
-std::string lastGameText(const LastGame& options);
+std::string lastGameText(const tables::Options& options);
 // Characters of a name outside Latin-1, and CR or LF (which would split the
 // field in two), are written as '?'.
 std::string highscoreText(const FastestTimes& tables);
@@ -75,13 +71,13 @@ std::string highscoreText(const FastestTimes& tables);
 FastestTimes tablesToSave(const std::string& highscorePath, const FastestTimes& tables);
 
 // Single-file saves (each atomic as described above); true on success.
-bool saveLastGame(const std::string& path, const LastGame& options);
+bool saveLastGame(const std::string& path, const tables::Options& options);
 bool saveHighscores(const std::string& path, const FastestTimes& tables);
 
 // The board's "Exit" save: lastgame.inf, then highscore.inf with
 // tablesToSave(highscorePath, tables). The first failure abandons the rest and
 // returns false; the caller carries on without a message either way.
 bool saveBoth(const std::string& lastgamePath, const std::string& highscorePath,
-              const LastGame& options, const FastestTimes& tables);
+              const tables::Options& options, const FastestTimes& tables);
 
 }  // namespace records

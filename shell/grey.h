@@ -6,8 +6,8 @@ namespace shell {
 
 class Grey : public platform::Form {
   public:
-    static constexpr const char* kName = "Grey";
-    Grey() : Form(kName, platform::FormKind::Backdrop) {}
+    static constexpr tables::Screen kScreen = tables::Screen::Grey;
+    Grey() : Form(kScreen, platform::FormKind::Backdrop) {}
     void Form_Load() override;
     // The backdrop is no screen the player works with: a desktop's request
     // to close it is ignored, so it never ends a game in progress.

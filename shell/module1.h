@@ -1,20 +1,16 @@
 #pragma once
-// The state every screen shares for the whole run: the options, the chosen
-// size and level, the start-up load result and the fastest-times tables.
-// All 16-bit signed and zero at program start; on/off values count as on only
-// when they equal 1.
+// The state every screen shares for the whole run: the options with the
+// chosen size and level, the start-up load result and the fastest-times
+// tables. All 16-bit signed and zero at program start; on/off values count as
+// on only when they equal 1.
 #include <cstdint>
 
 #include "records/fastest_times.h"
+#include "tables/options.h"
 
 namespace shell {
 
-struct Module1 : records::FastestTimes {
-    std::int16_t playsound = 0;
-    std::int16_t timerson = 0;
-    std::int16_t hidedesktop = 0;
-    std::int16_t level = 0;
-    std::int16_t boardsize = 0;
+struct Module1 : tables::Options, records::FastestTimes {
     std::int16_t loadfailed = 0;
     std::int16_t newrank = 0;
 };

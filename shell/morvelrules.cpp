@@ -15,10 +15,10 @@ RulesPage rulesPage(int page) {
     return {text::kPages[page], tables::kRules[page], example.puzzle.path, example.solution.path};
 }
 
-Morvelrules::Morvelrules() : Form(kName, platform::FormKind::FullSize) {
+Morvelrules::Morvelrules() : Form(kScreen, platform::FormKind::FullSize) {
     buildLayout();
     // It covers the options screen, which stays loaded beneath it.
-    keepAbove([] { return platform::screens::loaded("Startplay2"); });
+    keepAbove([] { return platform::screens::loaded(tables::Screen::Startplay2); });
     Option1.forEach([this](int k, platform::OptionButton& option) {
         option.onSelect = [this, k] { showPage(k); };
     });
@@ -79,7 +79,7 @@ void Morvelrules::showPage(int page) {
 }
 
 void Morvelrules::Label3_Click() {
-    platform::screens::unload(kName);
+    platform::screens::unload(kScreen);
     if (module1().playsound == 1) playwav("wav\\click.wav");
 }
 

@@ -10,7 +10,7 @@ namespace shell {
 
 class Morvelrules : public platform::Form {
   public:
-    static constexpr const char* kName = "Morvelrules";
+    static constexpr tables::Screen kScreen = tables::Screen::Morvelrules;
     Morvelrules();
     void Form_Load() override;
     // Closed through the desktop: as its "Exit".

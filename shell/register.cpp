@@ -9,10 +9,10 @@ namespace shell {
 
 void registerScreens() {
     using platform::screens::registerScreen;
-    registerScreen(Titlefrm::kName, [] { return new Titlefrm; });
-    registerScreen(Grey::kName, [] { return new Grey; });
-    registerScreen(Startplay2::kName, [] { return new Startplay2; });
-    registerScreen(Morvelrules::kName, [] { return new Morvelrules; });
+    registerScreen(Titlefrm::kScreen, [] { return new Titlefrm; });
+    registerScreen(Grey::kScreen, [] { return new Grey; });
+    registerScreen(Startplay2::kScreen, [] { return new Startplay2; });
+    registerScreen(Morvelrules::kScreen, [] { return new Morvelrules; });
 }
 
 }  // namespace shell

@@ -24,12 +24,7 @@ void clickIfSoundWasOn() {
 
 }  // namespace
 
-const char* boardScreenName(int sizeIndex) {
-    static const char* const names[] = {"jigsaw", "jigsaw5x5", "jigsaw6x6"};
-    return sizeIndex >= 0 && sizeIndex < 3 ? names[sizeIndex] : nullptr;
-}
-
-Startplay2::Startplay2() : Form(kName, platform::FormKind::Fixed) {
+Startplay2::Startplay2() : Form(kScreen, platform::FormKind::Fixed) {
     setClientSize(6510, 8250);
     buildLayout();
     // Wired after the designed values are set, so only later changes react.
@@ -134,35 +129,35 @@ void Startplay2::Check3_Click() {
     clickIfSoundWasOn();
     if (Check3->Value() == 1) {
         module1().hidedesktop = 1;
-        platform::screens::show("Grey");
+        platform::screens::show(tables::Screen::Grey);
     } else {
         module1().hidedesktop = 0;
-        platform::screens::unload("Grey");
+        platform::screens::unload(tables::Screen::Grey);
     }
     // Back on top of the backdrop.
-    platform::screens::show(kName);
+    platform::screens::show(kScreen);
 }
 
 void Startplay2::Label1_Click(int level) {
     auto& shared = module1();
     shared.level = static_cast<std::int16_t>(level);
     for (int k = 0; k < 3; ++k)
-        if (Option1(k).Value()) platform::screens::show(boardScreenName(k));
-    platform::screens::unload(kName);
+        if (Option1(k).Value()) platform::screens::show(tables::boardScreen(k));
+    platform::screens::unload(kScreen);
     if (shared.playsound == 1) playwav("wav\\click.wav");
 }
 
 void Startplay2::Label6_Click() {
-    platform::screens::show("Morvelrules");
+    platform::screens::show(tables::Screen::Morvelrules);
     if (module1().playsound == 1) playwav("wav\\click.wav");
 }
 
 void Startplay2::Label3_Click() {
     // Touching the title screen loads it afresh, re-reading both files.
-    platform::screens::get<Titlefrm>(Titlefrm::kName)
+    platform::screens::get<Titlefrm>(Titlefrm::kScreen)
         .Label5->setCaption(tables::title_text::kCancel);
-    platform::screens::show(Titlefrm::kName);
-    platform::screens::unload(kName);
+    platform::screens::show(Titlefrm::kScreen);
+    platform::screens::unload(kScreen);
 }
 
 }  // namespace shell

@@ -10,7 +10,7 @@ namespace shell {
 
 class Startplay2 : public platform::Form {
   public:
-    static constexpr const char* kName = "Startplay2";
+    static constexpr tables::Screen kScreen = tables::Screen::Startplay2;
     Startplay2();
     void Form_Load() override;
 
@@ -36,8 +36,5 @@ class Startplay2 : public platform::Form {
     void Label6_Click();
     void Label3_Click();
 };
-
-// The board screen of each size, by size index 0..2.
-const char* boardScreenName(int sizeIndex);
 
 }  // namespace shell

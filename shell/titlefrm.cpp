@@ -23,7 +23,7 @@ bool loadOptionalPicture(platform::PictureBox& box, const std::string& path) {
 
 }  // namespace
 
-Titlefrm::Titlefrm() : Form(kName, platform::FormKind::Fixed) {
+Titlefrm::Titlefrm() : Form(kScreen, platform::FormKind::Fixed) {
     setClientSize(6510, 8250);
 
     Image1.wire = [this](int, platform::PictureBox& picture) {
@@ -53,15 +53,7 @@ bool Titlefrm::loadEverything() {
 
     // Options read before a failure keep their new values, the others stay.
     auto& shared = module1();
-    records::LastGame options{shared.playsound, shared.timerson, shared.hidedesktop,
-                              shared.boardsize};
-    const bool complete =
-        records::loadBoth(records::kLastGameFile, records::kHighscoreFile, options, shared);
-    shared.playsound = options.playsound;
-    shared.timerson = options.timerson;
-    shared.hidedesktop = options.hidedesktop;
-    shared.boardsize = options.boardsize;
-    return complete;
+    return records::loadBoth(records::kLastGameFile, records::kHighscoreFile, shared, shared);
 }
 
 bool Titlefrm::loadPictures() {
@@ -73,9 +65,9 @@ bool Titlefrm::loadPictures() {
 void Titlefrm::leaveForOptions() {
     auto& shared = module1();
     shared.hidedesktop = 1;
-    platform::screens::show("Grey");
-    platform::screens::show("Startplay2");
-    platform::screens::unload(kName);
+    platform::screens::show(tables::Screen::Grey);
+    platform::screens::show(tables::Screen::Startplay2);
+    platform::screens::unload(kScreen);
     if (shared.playsound == 1) playwav("wav\\click.wav");
 }
 

@@ -10,7 +10,7 @@ namespace shell {
 
 class Titlefrm : public platform::Form {
   public:
-    static constexpr const char* kName = "Titlefrm";
+    static constexpr tables::Screen kScreen = tables::Screen::Titlefrm;
     Titlefrm();
     void Form_Load() override;
 

@@ -36,16 +36,17 @@ class BoardTests : public QObject {
         m.level = level;
         m.timerson = timerson;
         m.playsound = 1;
-        const std::string name = board::boardLayout(size).screenName;
-        platform::screens::show(name);
-        auto& b = platform::screens::get<Board>(name);
+        const tables::Screen screen = tables::boardScreen(size);
+        platform::screens::show(screen);
+        auto& b = platform::screens::get<Board>(screen);
         if (!QTest::qWaitForWindowExposed(&b)) throw std::runtime_error("board not exposed");
         takeSounds();
         return b;
     }
     static int cells(const Board& b) { return b.layout().n * b.layout().n; }
     static records::Highscores* scores() {
-        return static_cast<records::Highscores*>(platform::screens::loaded("highscores"));
+        return static_cast<records::Highscores*>(
+            platform::screens::loaded(tables::Screen::highscores));
     }
 
     static QPoint pixel(float x, float y) { return {platform::toPixels(x), platform::toPixels(y)}; }
@@ -163,16 +164,15 @@ class BoardTests : public QObject {
         board::registerScreens();
         records::registerScreens();
         // "Exit" goes back to the options screen; a plain stand-in does here.
-        platform::screens::registerScreen("Startplay2", [] {
-            return new platform::Form("Startplay2", platform::FormKind::Fixed);
+        platform::screens::registerScreen(tables::Screen::Startplay2, [] {
+            return new platform::Form(tables::Screen::Startplay2, platform::FormKind::Fixed);
         });
         platform::setFatalHandler(
             [](const QString& m) { throw std::runtime_error(m.toStdString()); });
         platform::setSoundObserver([](const std::string& path) { heard.push_back(path); });
     }
     void cleanup() {
-        for (const char* name : {"jigsaw", "jigsaw5x5", "jigsaw6x6", "highscores", "Startplay2"})
-            platform::screens::unload(name);
+        for (const auto& entry : tables::kScreens) platform::screens::unload(entry.screen);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
@@ -240,16 +240,16 @@ class BoardTests : public QObject {
 
     // Each size once: a random set drawn from the whole catalogue and no
     // further (the 6x6 board never starts with set 6 or 7), every file of the
-    // catalogue present, and the level and clock options shown.
+    // catalogue present, the board's name, and the level and clock options shown.
     void startUpDrawsASetAndShowsTheOptions() {
         const QColor colours[] = {{0, 0, 255}, {255, 0, 255}, {255, 0, 0}};
         for (int level = 0; level < 3; ++level) {
             const int size = 2 - level;
-            const std::string name = board::boardLayout(size).screenName;
+            const tables::Screen screen = tables::boardScreen(size);
             std::set<int> seen;
             for (int i = 0; i < 120; ++i) {
-                seen.insert(platform::screens::get<Board>(name).pictureset);
-                platform::screens::unload(name);
+                seen.insert(platform::screens::get<Board>(screen).pictureset);
+                platform::screens::unload(screen);
             }
             const auto sets = tables::catalogue(size);
             QVERIFY(int(seen.size()) == sets.size() && *seen.rbegin() + 1 == sets.size());
@@ -260,6 +260,9 @@ class BoardTests : public QObject {
             }
             const bool timed = level != 0;
             Board& b = open(size, level, timed);
+            // The window carries the size's own name, by which tools find it.
+            const char* const names[] = {"jigsaw", "jigsaw5x5", "jigsaw6x6"};
+            QCOMPARE(b.objectName(), QString(names[size]));
             QCOMPARE(b.Label1(0).Caption(), std::to_string(level + 1));
             QVERIFY(b.Label1(0).BackColor() == colours[level] && b.BackColor() == colours[level]);
             for (int i = 0; i < 3; ++i) QCOMPARE(b.Label2(i).Visible(), timed);
@@ -489,11 +492,11 @@ class BoardTests : public QObject {
             click(b, b.Label3(FastestTimes));
             takeSounds();
             byWindowManager ? void(b.close()) : click(b, b.Label3(Exit));
-            QVERIFY(!platform::screens::isLoaded("jigsaw6x6") && !scores());
-            QVERIFY(platform::screens::get("Startplay2").isVisible());
-            platform::screens::unload("Startplay2");
+            QVERIFY(!platform::screens::isLoaded(tables::Screen::jigsaw6x6) && !scores());
+            QVERIFY(platform::screens::get(tables::Screen::Startplay2).isVisible());
+            platform::screens::unload(tables::Screen::Startplay2);
             QCOMPARE(takeSounds(), Sounds{"wav\\click.wav"});
-            records::LastGame saved;
+            tables::Options saved;
             records::FastestTimes tables;
             QVERIFY(records::loadLastGame(records::kLastGameFile, saved) &&
                     records::loadHighscores(records::kHighscoreFile, tables));

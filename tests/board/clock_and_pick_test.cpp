@@ -26,8 +26,8 @@ class ClockAndPickTests : public QObject {
         m.level = 2;
         m.playsound = playsound;
         m.timerson = timerson;
-        platform::screens::show("jigsaw");
-        auto& b = platform::screens::get<Board>("jigsaw");
+        platform::screens::show(tables::Screen::jigsaw);
+        auto& b = platform::screens::get<Board>(tables::Screen::jigsaw);
         if (!QTest::qWaitForWindowExposed(&b)) throw std::runtime_error("board not exposed");
         heard.clear();
         return b;
@@ -52,7 +52,7 @@ class ClockAndPickTests : public QObject {
         platform::setSoundObserver([](const std::string& path) { heard.push_back(path); });
     }
     void cleanup() {
-        platform::screens::unload("jigsaw");
+        platform::screens::unload(tables::Screen::jigsaw);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 

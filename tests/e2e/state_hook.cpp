@@ -32,11 +32,9 @@
 #include "board/board_screen.h"
 #include "platform/form.h"
 #include "platform/sound.h"
+#include "tables/screens.h"
 
 namespace {
-
-const char* const kScreens[] = {"Titlefrm", "Grey",      "Startplay2", "Morvelrules",
-                                "jigsaw",   "jigsaw5x5", "jigsaw6x6",  "highscores"};
 
 QPoint centreOf(const QWidget& control) {
     return control.mapToGlobal(control.rect().center());
@@ -79,8 +77,8 @@ void writeHandPlay(std::ostream& out, board::Board& board) {
 
 std::string describeScreens() {
     std::ostringstream out;
-    for (const char* name : kScreens) {
-        platform::Form* form = platform::screens::loaded(name);
+    for (const auto& [screen, name] : tables::kScreens) {
+        platform::Form* form = platform::screens::loaded(screen);
         if (!form || !form->isVisible()) continue;
         const QPoint origin = form->client()->mapToGlobal(QPoint(0, 0));
         out << "screen " << name << ' ' << origin.x() << ' ' << origin.y() << '\n';

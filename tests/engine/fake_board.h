@@ -14,6 +14,15 @@ namespace engine::testing {
 
 using Spot = std::pair<float, float>;
 
+// The three options the board procedures read.
+inline Options options(std::int16_t level, std::int16_t playsound, std::int16_t timerson) {
+    Options o;
+    o.level = level;
+    o.playsound = playsound;
+    o.timerson = timerson;
+    return o;
+}
+
 struct Box {
     float left = 0, top = 0, side = 1560;
     bool visible = true, enabled = true;

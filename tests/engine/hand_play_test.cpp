@@ -34,7 +34,7 @@ struct Picked : ::testing::Test {
     Picking::Outcome cell(int c) { return picking.chooseCell(c, sound, {}).outcome; }
     Picking::Outcome slot(int s) { return picking.chooseSlot(s, sound, {}).outcome; }
 
-    const Options sound{2, 1, 0};
+    const Options sound = options(2, 1, 0);
     FakeBoard board{0};
     Picking picking{board.game, board};
 };

@@ -10,7 +10,7 @@ namespace engine::testing {
 struct DragDrop : ::testing::Test {
     Spot dropAt(int piece, Spot spot) {
         board.put(piece, spot);
-        board.game.pieceMouseUp(piece, {0, 1, 0});
+        board.game.pieceMouseUp(piece, options(0, 1, 0));
         return board.at(Pic::Image2, piece);
     }
     FakeBoard board{0};
@@ -67,7 +67,7 @@ TEST(Check, VerdictNamesTheLastFailingKind) {
         FakeBoard board(size);
         board.game.seconds = 5;
         board.lay(rows);
-        board.game.checkanswer({0, 1, 0});
+        board.game.checkanswer(options(0, 1, 0));
         EXPECT_EQ(board.caption(Lab::Label7), verdict) << rows;
         EXPECT_TRUE(board.shown[Lab::Label7]);
         const bool correct = verdict[0] == 'C';
@@ -87,7 +87,7 @@ TEST(Check, ClockWrapsAfter9999AndACorrectGridStopsItAndRanksTheTime) {
     EXPECT_EQ(board.caption(Lab::Label2_1), "9999");
     for (int tick = 0; tick < 2; ++tick) board.game.timer1Tick();  // wraps to 0, then 1
 
-    board.game.timer2Tick({0, 0, 1});
+    board.game.timer2Tick(options(0, 0, 1));
     EXPECT_EQ(board.caption(Lab::Label7), "Correct in 1 seconds!!!");
     EXPECT_TRUE(board.sounds.empty());
     EXPECT_TRUE(!board.shown[Lab::Label3_4] && board.shown[Lab::Label3_2]);
@@ -95,7 +95,7 @@ TEST(Check, ClockWrapsAfter9999AndACorrectGridStopsItAndRanksTheTime) {
     EXPECT_EQ(board.caption(Lab::Label2_1), "1");  // the time stays on show
     EXPECT_EQ(board.highscoreChecks, 1);
 
-    board.game.checkanswer({0, 0, 0});  // clock option off
+    board.game.checkanswer(options(0, 0, 0));  // clock option off
     EXPECT_EQ(board.caption(Lab::Label7), "Correct, Well Done!!!");
     EXPECT_EQ(board.highscoreChecks, 1);
 }
@@ -123,7 +123,7 @@ TEST(Options, OnlyOneSwitchesAnOptionOn) {
 }
 
 TEST(Commands, ShowSolutionCheckAndStartAgain) {
-    const Options sound{0, 1, 0};
+    const Options sound = options(0, 1, 0);
     for (int size = 0; size < 3; ++size) {
         FakeBoard board(size);
         board.game.setsolution();

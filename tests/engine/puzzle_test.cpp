@@ -24,7 +24,7 @@ TEST(Setup, FourByFourWorkedExample) {
     board.game.seconds = 42;
     for (int p = 0; p < 16; ++p) board.box(Pic::Image2, p).visible = false;
     board.game.setsolution();
-    board.game.setstart({2, 0, 0});
+    board.game.setstart(options(2, 0, 0));
 
     EXPECT_EQ(rowsOf(board.game.solution), "2431 1342 4213 3124");  // template 1, one turn
     EXPECT_EQ(rowsOf(board.game.given), "1000 0101 0010 0101");
@@ -76,7 +76,7 @@ TEST(Setup, SolutionAndGivensFollowTheDrawnMovesAndTheLevel) {
         board.game.seconds = 9;
         board.game.setsolution();
         EXPECT_EQ(rowsOf(board.game.solution), solution);
-        board.game.setstart({level, 0, 1});
+        board.game.setstart(options(level, 0, 1));
         EXPECT_EQ(rowsOf(board.game.given), givens) << solution;
         EXPECT_THROW(board.scripted.next(), std::out_of_range);  // every scripted draw used
         EXPECT_EQ(board.scripted.seedings(), size == 1 ? 2 : 3);
@@ -153,7 +153,7 @@ TEST(Setup, ThousandsOfRandomGamesAreSoundPuzzles) {
         for (int round = 0; round < 2000; ++round) {
             board.game.sendPiecesHome();
             board.game.setsolution();
-            board.game.setstart({std::int16_t(i % 3), 0, 0});
+            board.game.setstart(options(std::int16_t(i % 3), 0, 0));
             counts.insert(board.game.coveredCells());
             // Each picture once per region, the regions worked out here, not by the engine.
             std::map<int, std::set<int>> regions;  // by kind * 10 + number

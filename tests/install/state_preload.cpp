@@ -22,11 +22,9 @@
 #include <sstream>
 #include <vector>
 
-namespace {
+#include "tables/screens.h"
 
-const char* const kScreens[] = {"Titlefrm", "Grey",      "Startplay2", "Morvelrules",
-                                "jigsaw",   "jigsaw5x5", "jigsaw6x6",  "highscores"};
-const std::map<QString, int> kBoardSizes = {{"jigsaw", 4}, {"jigsaw5x5", 5}, {"jigsaw6x6", 6}};
+namespace {
 
 QPoint centreOf(const QWidget& control) {
     return control.mapToGlobal(control.rect().center());
@@ -109,15 +107,15 @@ void writeMoves(std::ostream& out, const QWidget& board, int n) {
 
 std::string describeScreens() {
     std::ostringstream out;
-    for (const char* name : kScreens) {
+    for (const auto& [screen, name] : tables::kScreens) {
         QWidget* form = nullptr;
         for (QWidget* w : QApplication::topLevelWidgets())
             if (w->objectName() == QLatin1String(name) && w->isVisible()) form = w;
         if (!form) continue;
         const QPoint origin = form->mapToGlobal(QPoint(0, 0));
         out << "screen " << name << ' ' << origin.x() << ' ' << origin.y() << '\n';
-        const auto board = kBoardSizes.find(QLatin1String(name));
-        if (board != kBoardSizes.end()) writeMoves(out, *form, board->second);
+        if (const int boardsize = tables::boardsizeOf(screen); boardsize >= 0)
+            writeMoves(out, *form, boardsize + 4);
         for (const QAbstractButton* b : form->findChildren<QAbstractButton*>())
             if (b->isCheckable() && b->isVisible())
                 out << "button " << b->isChecked() << ' ' << b->text().toStdString() << '\n';

@@ -25,11 +25,13 @@ struct FatalError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// A screen that counts its start-ups and keeps one control value.
+// A screen that counts its start-ups and keeps one control value, standing
+// in for the title screen (the ids are the game's own).
 int loads = 0;
+constexpr tables::Screen kProbe = tables::Screen::Titlefrm;
 class Probe : public Form {
   public:
-    Probe() : Form("Probe", FormKind::FullSize), caption(new Label(this)) {}
+    Probe() : Form(kProbe, FormKind::FullSize), caption(new Label(this)) {}
     void Form_Load() override {
         ++loads;
         caption->setCaption("designed");
@@ -118,7 +120,7 @@ class PlatformTests : public QObject {
         writeFile("Images/broken.jpg", "not a picture");
         writeFile("Images/H_POINT.cur", cursorFile(32, 9, 2));
         setFatalHandler([](const QString& m) { throw FatalError(m.toStdString()); });
-        screens::registerScreen("Probe", [] { return new Probe; });
+        screens::registerScreen(kProbe, [] { return new Probe; });
     }
     void cleanupTestCase() { QDir::setCurrent(oldCwd); }
 
@@ -214,24 +216,24 @@ class PlatformTests : public QObject {
 
     void screensLoadOnceAndStartAfreshAfterUnload() {
         loads = 0;
-        QVERIFY(!screens::isLoaded("Probe"));
-        auto& probe = screens::get<Probe>("Probe");
+        QVERIFY(!screens::isLoaded(kProbe));
+        auto& probe = screens::get<Probe>(kProbe);
         QCOMPARE(loads, 1);
-        QCOMPARE(&screens::get<Probe>("Probe"), &probe);
+        QCOMPARE(&screens::get<Probe>(kProbe), &probe);
         probe.caption->setCaption("changed");
-        screens::unload("Probe");
-        QVERIFY(!screens::isLoaded("Probe"));
-        screens::show("Probe");
+        screens::unload(kProbe);
+        QVERIFY(!screens::isLoaded(kProbe));
+        screens::show(kProbe);
         QCOMPARE(loads, 2);
-        QCOMPARE(screens::get<Probe>("Probe").caption->Caption(), std::string("designed"));
-        QVERIFY(screens::get<Probe>("Probe").isVisible());
+        QCOMPARE(screens::get<Probe>(kProbe).caption->Caption(), std::string("designed"));
+        QVERIFY(screens::get<Probe>(kProbe).isVisible());
 
         bool ended = false;
         screens::setEndHandler([&] { ended = true; });
         screens::endProgram();
         QVERIFY(ended);
-        QVERIFY(!screens::isLoaded("Probe"));
-        QVERIFY_THROWS_EXCEPTION(std::logic_error, screens::get("NoSuchScreen"));
+        QVERIFY(!screens::isLoaded(kProbe));
+        QVERIFY_THROWS_EXCEPTION(std::logic_error, screens::get(tables::Screen::Morvelrules));
     }
 
     void boxesReactOnlyToRealChanges() {
@@ -270,16 +272,18 @@ class PlatformTests : public QObject {
     // The overlay's border makes it as wide as the full-size screen; window
     // managers keep it above the full-size screen shown last, while shown.
     void overlayCoversItsScreenAndStaysAboveIt() {
-        screens::registerScreen("Over", [] {
-            auto* over = new Form("Over", FormKind::Overlay);
+        screens::registerScreen(tables::Screen::highscores, [] {
+            auto* over = new Form(tables::Screen::highscores, FormKind::Overlay);
             over->setClientSize(15210, 4050);
             return over;
         });
-        screens::registerScreen("Board", [] { return new Form("Board", FormKind::FullSize); });
-        Form& board = screens::get("Board");
+        screens::registerScreen(tables::Screen::jigsaw, [] {
+            return new Form(tables::Screen::jigsaw, FormKind::FullSize);
+        });
+        Form& board = screens::get(tables::Screen::jigsaw);
         shell::placeform(board);
         board.Show();
-        Form& over = screens::get("Over");
+        Form& over = screens::get(tables::Screen::highscores);
         QCOMPARE(QSizeF(over.Width(), over.Height()), QSizeF(15360, 4200));
         QCOMPARE(over.client()->geometry(), QRect(5, 5, 1014, 270));
         over.Show();
@@ -290,8 +294,8 @@ class PlatformTests : public QObject {
         board.hide();
         over.Show();  // nothing shown to lie over
         QCOMPARE(over.windowHandle()->transientParent(), nullptr);
-        screens::unload("Over");
-        screens::unload("Board");
+        screens::unload(tables::Screen::highscores);
+        screens::unload(tables::Screen::jigsaw);
     }
 
     void x11OnlyForAWaylandSessionWithAnXServer() {

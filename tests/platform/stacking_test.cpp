@@ -13,7 +13,9 @@ class StackingTests : public QObject {
   private slots:
     void theScreenShownLastLiesOnTop() {
         QCOMPARE(QGuiApplication::platformName(), QStringLiteral("xcb"));
-        Form first("first", FormKind::FullSize), second("second", FormKind::FullSize);
+        // Two full-size screens; which of the game's ids they carry does not matter here.
+        Form first(tables::Screen::jigsaw, FormKind::FullSize),
+            second(tables::Screen::Morvelrules, FormKind::FullSize);
         for (Form* form : {&first, &second}) {
             form->setOuterSize(6000, 6000);
             form->setLeft(1500);

@@ -22,10 +22,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string bytes(reinterpret_cast<const char*>(data), size);
 
     std::istringstream lastgameIn(bytes);
-    records::LastGame options;
+    tables::Options options;
     records::loadLastGame(lastgameIn, options);
     const std::string lastgame = records::lastGameText(options);
-    records::LastGame reread;
+    tables::Options reread;
     std::istringstream lastgameAgain(lastgame);
     require(records::loadLastGame(lastgameAgain, reread));
     require(records::lastGameText(reread) == lastgame);

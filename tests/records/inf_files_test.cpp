@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using records::FastestTimes;
-using records::LastGame;
+using tables::Options;
 
 void write(const std::string& file, const std::string& bytes) {
     std::ofstream(file, std::ios::binary) << bytes;
@@ -51,9 +51,10 @@ class InfFiles : public ::testing::Test {
 };
 
 TEST_F(InfFiles, LastGameKeepsWhatIsNotRead) {
-    ASSERT_TRUE(records::saveLastGame(lastgame_, LastGame{1, 0, -5, 32767}));
+    // The level (2) lies among the options in memory but is never written.
+    ASSERT_TRUE(records::saveLastGame(lastgame_, Options{1, 0, -5, 2, 32767}));
     EXPECT_EQ(read(lastgame_), "1\r\n0\r\n-5\r\n32767\r\n");
-    LastGame options;
+    Options options;
     ASSERT_TRUE(records::loadLastGame(lastgame_, options));
     EXPECT_EQ(records::lastGameText(options), read(lastgame_));
 
@@ -94,7 +95,7 @@ TEST_F(InfFiles, BadHighscoreLinesCostOnlyThemselves) {
 
 TEST_F(InfFiles, SaveKeepsRecordsTheRunNeverRead) {
     FastestTimes t;
-    LastGame options;
+    Options options;
     // First run, no files: the exit save creates both.
     EXPECT_FALSE(records::loadBoth(lastgame_, highscore_, options, t));
     ASSERT_TRUE(records::saveBoth(lastgame_, highscore_, options, t));
@@ -156,7 +157,7 @@ TEST_F(InfFiles, FailedSaveLeavesTheOldFilesWhole) {
 TEST_F(InfFiles, FilesThePlayerMayNotWriteStayAsTheyAre) {
     if (::geteuid() == 0) GTEST_SKIP() << "root may write any file; run as an ordinary user";
     const std::string oldOptions = "1\r\n1\r\n1\r\n1\r\n", oldRecords = fileOf(90, {{1, "35"}});
-    const LastGame options{0, 1, 0, 2};
+    const Options options{0, 1, 0, 0, 2};
     FastestTimes tables;
     tables.besttime[0][0][0] = 12;
     auto identity = [](const std::string& file) {

@@ -15,7 +15,7 @@ Morvelrules& rules() {
 }
 
 void openRules() {
-    platform::screens::show(shell::Startplay2::kName);
+    platform::screens::show(shell::Startplay2::kScreen);
     click(*screen<shell::Startplay2>().Label6);
 }
 
@@ -71,7 +71,7 @@ class RulesTests : public ScreenTest {
                 click(rules().Label3(0));
             else
                 rules().close();
-            QVERIFY(!platform::screens::isLoaded(Morvelrules::kName));
+            QVERIFY(!platform::screens::isLoaded(Morvelrules::kScreen));
             QVERIFY(screen<shell::Startplay2>().isVisible());
             QCOMPARE(sounds, clickIfOn);  // pages turn silently
         }

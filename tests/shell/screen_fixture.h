@@ -28,12 +28,14 @@ class ScreenTest : public QObject {
 
   private slots:
     void init() {
-        if (!platform::screens::isRegistered("jigsaw")) {
+        if (!platform::screens::isRegistered(tables::Screen::jigsaw)) {
             shell::registerScreens();
-            for (const char* board : {"jigsaw", "jigsaw5x5", "jigsaw6x6"})  // only loaded
+            for (int size = 0; size < 3; ++size) {  // only loaded
+                const tables::Screen board = tables::boardScreen(size);
                 platform::screens::registerScreen(board, [board] {
                     return new platform::Form(board, platform::FormKind::FullSize);
                 });
+            }
         }
         dir_ = std::make_unique<QTemporaryDir>();
         for (const char* folder : {"Images", "wav"})
@@ -62,7 +64,7 @@ class ScreenTest : public QObject {
 
 template <class Screen>
 Screen& screen() {
-    return platform::screens::get<Screen>(Screen::kName);
+    return platform::screens::get<Screen>(Screen::kScreen);
 }
 
 inline void writeFile(const char* name, const QByteArray& bytes) {

@@ -18,7 +18,7 @@ Startplay2& options() {
 // The way a player arrives: the title screen's "OK".
 void arriveFromTitle(const char* lastgame) {
     if (lastgame) writeFile("lastgame.inf", lastgame);
-    platform::screens::show(Titlefrm::kName);
+    platform::screens::show(Titlefrm::kScreen);
     click(*screen<Titlefrm>().Label5);
 }
 
@@ -73,7 +73,7 @@ class TitleAndOptionsTests : public ScreenTest {
         if (highscoreChop >= 0)
             writeFile("highscore.inf", highscoreWithOneEntry().chopped(highscoreChop));
 
-        platform::screens::show(Titlefrm::kName);
+        platform::screens::show(Titlefrm::kScreen);
         QTEST((QVector<int>{shared.playsound, shared.timerson, shared.hidedesktop, shared.boardsize,
                             shared.besttime[0][0][0], shared.loadfailed}),
               "after");
@@ -88,45 +88,45 @@ class TitleAndOptionsTests : public ScreenTest {
         for (int way : {0, 1, 2}) {
             const bool sound = way > 0;
             writeFile("lastgame.inf", sound ? "1\r\n0\r\n0\r\n0\r\n" : "0\r\n0\r\n0\r\n0\r\n");
-            platform::screens::show(Titlefrm::kName);
+            platform::screens::show(Titlefrm::kScreen);
             auto& title = screen<Titlefrm>();
             QCOMPARE(title.Label5->Caption(), std::string("OK"));
             sounds.clear();
 
             click(way == 0 ? static_cast<QWidget&>(*title.Label5) : title.Image1(way - 1));
             QCOMPARE(shell::module1().hidedesktop, 1);
-            QVERIFY(platform::screens::get("Grey").isVisible());
+            QVERIFY(platform::screens::get(tables::Screen::Grey).isVisible());
             QVERIFY(screen<Startplay2>().isVisible());
-            QVERIFY(!isLoaded(Titlefrm::kName));
+            QVERIFY(!isLoaded(Titlefrm::kScreen));
             // The click of leaving only: the backdrop box stays ticked.
             QCOMPARE(sounds, sound ? Sounds{"wav\\click.wav"} : Sounds{});
-            platform::screens::unload(Startplay2::kName);
+            platform::screens::unload(Startplay2::kScreen);
         }
     }
 
     void exitEndsTheProgram() {
-        platform::screens::show(Titlefrm::kName);
+        platform::screens::show(Titlefrm::kScreen);
         click(*screen<Titlefrm>().Label7);
         QVERIFY(ended);
-        QVERIFY(!isLoaded(Titlefrm::kName));
+        QVERIFY(!isLoaded(Titlefrm::kScreen));
     }
 
     // The desktop's close button: the title and options screens end the game
     // (the options screen's way out ends at the title screen's "Exit"); the
     // backdrop is not the player's to close, and nothing ends with it.
     void closingThroughTheDesktop() {
-        platform::screens::show("Grey");
-        platform::screens::get("Grey").close();
-        QVERIFY(!ended && platform::screens::get("Grey").isVisible());
+        platform::screens::show(tables::Screen::Grey);
+        platform::screens::get(tables::Screen::Grey).close();
+        QVERIFY(!ended && platform::screens::get(tables::Screen::Grey).isVisible());
 
-        for (const char* name : {Titlefrm::kName, Startplay2::kName}) {
+        for (const tables::Screen screen : {Titlefrm::kScreen, Startplay2::kScreen}) {
             ended = false;
-            platform::screens::show(name);
-            platform::screens::get(name).close();
-            QVERIFY2(ended, name);
-            QVERIFY(!isLoaded(name) && !isLoaded("Grey"));
+            platform::screens::show(screen);
+            platform::screens::get(screen).close();
+            QVERIFY2(ended, tables::screenName(screen));
+            QVERIFY(!isLoaded(screen) && !isLoaded(tables::Screen::Grey));
             QVERIFY(!QFile::exists("lastgame.inf"));  // nothing is saved
-            platform::screens::show("Grey");
+            platform::screens::show(tables::Screen::Grey);
         }
     }
 
@@ -147,7 +147,7 @@ class TitleAndOptionsTests : public ScreenTest {
         sounds.clear();
         click(options().Label3(0));
         QVERIFY(sounds.empty());
-        QVERIFY(!isLoaded(Startplay2::kName));
+        QVERIFY(!isLoaded(Startplay2::kScreen));
         auto& title = screen<Titlefrm>();
         QVERIFY(title.isVisible());
         QCOMPARE(title.Label5->Caption(), std::string("Cancel"));
@@ -155,7 +155,7 @@ class TitleAndOptionsTests : public ScreenTest {
         // backdrop is left as it was.
         QCOMPARE(shell::module1().timerson, 1);
         QCOMPARE(shell::module1().boardsize, 2);
-        QVERIFY(isLoaded("Grey"));
+        QVERIFY(isLoaded(tables::Screen::Grey));
 
         click(*title.Label5);  // "Cancel" leads on just like "OK"
         QVERIFY(options().Option1(2).Value());
@@ -165,22 +165,22 @@ class TitleAndOptionsTests : public ScreenTest {
         arriveFromTitle("1\r\n0\r\n1\r\n0\r\n");
         click(*options().Check3, true);
         QCOMPARE(shell::module1().hidedesktop, 0);
-        QVERIFY(!isLoaded("Grey"));
+        QVERIFY(!isLoaded(tables::Screen::Grey));
         click(options().Label1(0));
         sounds.clear();
 
         // Back from the board, as its "Exit" does it: the start-up clears the
         // designed tick, so the box reacts again (a click); no backdrop.
-        platform::screens::show(Startplay2::kName);
-        platform::screens::unload("jigsaw");
+        platform::screens::show(Startplay2::kScreen);
+        platform::screens::unload(tables::Screen::jigsaw);
         QCOMPARE(sounds, Sounds{"wav\\click1.wav"});
         QCOMPARE(shell::module1().hidedesktop, 0);
         QCOMPARE(options().Check3->Value(), 0);
-        QVERIFY(!isLoaded("Grey"));
+        QVERIFY(!isLoaded(tables::Screen::Grey));
 
         click(*options().Check3, true);
         QCOMPARE(shell::module1().hidedesktop, 1);
-        QVERIFY(platform::screens::get("Grey").isVisible());
+        QVERIFY(platform::screens::get(tables::Screen::Grey).isVisible());
     }
 
     void boxesClickOnlyWhenSoundWasOn() {
@@ -214,19 +214,18 @@ class TitleAndOptionsTests : public ScreenTest {
         QCOMPARE(options().Check3->Value(), 1);  // the title screen has set it to 1
 
         // Back from a board, as its "Exit" does it.
-        platform::screens::unload(Startplay2::kName);
+        platform::screens::unload(Startplay2::kScreen);
         shared.playsound = 2;
         shared.hidedesktop = 2;
-        platform::screens::show(Startplay2::kName);
+        platform::screens::show(Startplay2::kScreen);
         QCOMPARE(shared.hidedesktop, 0);
         QCOMPARE(options().Check3->Value(), 0);
-        QVERIFY(!isLoaded("Grey"));
+        QVERIFY(!isLoaded(tables::Screen::Grey));
         QVERIFY(sounds.empty());
     }
 
     void levelButtonsStartTheChosenSize() {
         const char* const saved = "1\r\n0\r\n1\r\n0\r\n";
-        const char* const boards[] = {"jigsaw", "jigsaw5x5", "jigsaw6x6"};
         for (int size = 0; size < 3; ++size) {
             const int level = 2 - size;
             arriveFromTitle(saved);
@@ -236,14 +235,14 @@ class TitleAndOptionsTests : public ScreenTest {
 
             click(options().Label1(level));
             QCOMPARE(shell::module1().level, level);
-            for (int k = 0; k < 3; ++k) QCOMPARE(isLoaded(boards[k]), k == size);
-            QVERIFY(!isLoaded(Startplay2::kName));
+            for (int k = 0; k < 3; ++k) QCOMPARE(isLoaded(tables::boardScreen(k)), k == size);
+            QVERIFY(!isLoaded(Startplay2::kScreen));
             QCOMPARE(sounds, Sounds{"wav\\click.wav"});
             // Starting a game writes nothing.
             QFile file("lastgame.inf");
             QVERIFY(file.open(QIODevice::ReadOnly) && file.readAll() == saved);
             QVERIFY(!QFile::exists("highscore.inf"));
-            platform::screens::unload(boards[size]);
+            platform::screens::unload(tables::boardScreen(size));
         }
     }
 };

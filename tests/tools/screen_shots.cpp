@@ -26,6 +26,7 @@
 #include "platform/form.h"
 #include "records/highscores.h"
 #include "shell/register.h"
+#include "tables/screens.h"
 
 // The wall clock stands still at one moment, so the boards' random start
 // (seeded from the time of day) is the same on every run. The other clocks,
@@ -41,6 +42,7 @@ extern "C" int clock_gettime(clockid_t clock, struct timespec* ts) {
 
 namespace {
 
+using tables::Screen;
 QString outFolder;
 int shotNumber = 0;
 
@@ -51,11 +53,12 @@ void settle() {
     }
 }
 
-void shoot(const char* screen, const QString& what) {
+void shoot(Screen screen, const QString& what) {
     settle();
     platform::Form* form = platform::screens::loaded(screen);
     if (!form || !form->isVisible()) {
-        std::fprintf(stderr, "screen %s is not shown for %s\n", screen, qPrintable(what));
+        std::fprintf(stderr, "screen %s is not shown for %s\n", tables::screenName(screen),
+                     qPrintable(what));
         std::exit(1);
     }
     const QString file =
@@ -65,10 +68,10 @@ void shoot(const char* screen, const QString& what) {
 
 // The shown control of `screen` whose caption is `caption`.
 template <class Control>
-Control* find(const char* screen, const QString& caption) {
+Control* find(Screen screen, const QString& caption) {
     for (Control* c : platform::screens::get(screen).findChildren<Control*>())
         if (c->isVisible() && c->text() == caption) return c;
-    std::fprintf(stderr, "no \"%s\" on %s\n", qPrintable(caption), screen);
+    std::fprintf(stderr, "no \"%s\" on %s\n", qPrintable(caption), tables::screenName(screen));
     std::exit(1);
 }
 
@@ -77,23 +80,21 @@ void clickWidget(QWidget* w) {
     settle();
 }
 
-void click(const char* screen, const QString& caption) {
+void click(Screen screen, const QString& caption) {
     clickWidget(find<QLabel>(screen, caption));
 }
 
-void setChecked(const char* screen, const QString& caption, bool on) {
+void setChecked(Screen screen, const QString& caption, bool on) {
     QCheckBox* box = find<QCheckBox>(screen, caption);
     if (box->isChecked() != on) clickWidget(box);
 }
 
-const char* const kBoards[] = {"jigsaw", "jigsaw5x5", "jigsaw6x6"};
-
 void shootBoard(int size, int level, bool timers) {
-    setChecked("Startplay2", "Timers On", timers);
+    setChecked(Screen::Startplay2, "Timers On", timers);
     clickWidget(
-        platform::screens::get<QWidget>("Startplay2").findChildren<QRadioButton*>().at(size));
-    click("Startplay2", QString::number(level + 1));
-    const char* name = kBoards[size];
+        platform::screens::get<QWidget>(Screen::Startplay2).findChildren<QRadioButton*>().at(size));
+    click(Screen::Startplay2, QString::number(level + 1));
+    const Screen name = tables::boardScreen(size);
     auto& b = platform::screens::get<board::Board>(name);
     b.Timer1.setEnabled(false);  // the clock shows 0 however slow the run
     const QString tag =
@@ -111,8 +112,8 @@ void shootBoard(int size, int level, bool timers) {
     }
     if (timers) {
         click(name, "Fastest Times");
-        shoot("highscores", tag + "-fastest");
-        click("highscores", "Continue");
+        shoot(Screen::highscores, tag + "-fastest");
+        click(Screen::highscores, "Continue");
     }
     click(name, "Exit");
 }
@@ -138,26 +139,26 @@ int main(int argc, char* argv[]) {
     board::registerScreens();
     records::registerScreens();
 
-    platform::screens::show("Titlefrm");
-    shoot("Titlefrm", "title");
-    click("Titlefrm", "OK");
-    shoot("Grey", "backdrop");
-    shoot("Startplay2", "options");
+    platform::screens::show(Screen::Titlefrm);
+    shoot(Screen::Titlefrm, "title");
+    click(Screen::Titlefrm, "OK");
+    shoot(Screen::Grey, "backdrop");
+    shoot(Screen::Startplay2, "options");
 
-    click("Startplay2", "The Rules");
-    auto pages = platform::screens::get<QWidget>("Morvelrules").findChildren<QRadioButton*>();
+    click(Screen::Startplay2, "The Rules");
+    auto pages = platform::screens::get<QWidget>(Screen::Morvelrules).findChildren<QRadioButton*>();
     for (int page = 0; page < pages.size(); ++page) {
         clickWidget(pages.at(page));
-        shoot("Morvelrules", QString("rules-page%1").arg(page + 1));
+        shoot(Screen::Morvelrules, QString("rules-page%1").arg(page + 1));
     }
-    click("Morvelrules", "Exit");
+    click(Screen::Morvelrules, "Exit");
 
     for (int size = 0; size < 3; ++size)
         for (int level = 0; level < 3; ++level) shootBoard(size, level, level == 1);
 
-    shoot("Startplay2", "options-after-games");
-    click("Startplay2", "Exit");
-    shoot("Titlefrm", "title-again");
+    shoot(Screen::Startplay2, "options-after-games");
+    click(Screen::Startplay2, "Exit");
+    shoot(Screen::Titlefrm, "title-again");
     std::printf("%d screens in %s\n", shotNumber, qPrintable(outFolder));
     platform::screens::endProgram();
     return 0;

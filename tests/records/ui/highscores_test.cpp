@@ -35,13 +35,13 @@ class HighscoresTests : public QObject {
         QVERIFY(QTest::qWaitForWindowExposed(&form));
         const QPoint at = form.Label3(0).mapTo(&form, form.Label3(0).rect().center());
         QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, at);
-        QVERIFY(!platform::screens::isLoaded(Highscores::kName));
+        QVERIFY(!platform::screens::isLoaded(Highscores::kScreen));
     }
 
   private slots:
     void initTestCase() { records::registerScreens(); }
     void init() {
-        platform::screens::unload(Highscores::kName);
+        platform::screens::unload(Highscores::kScreen);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         tables = records::FastestTimes{};
     }
@@ -115,7 +115,7 @@ class HighscoresTests : public QObject {
 
         // A board command unloads the screen: the name stays as of the last tick.
         QTest::keyClick(&box, Qt::Key_Backspace);
-        platform::screens::unload(Highscores::kName);
+        platform::screens::unload(Highscores::kScreen);
         QTest::qWait(250);  // nothing is copied once the screen is gone
         QCOMPARE(entry, string("abcdefghijklmnopqrstuvwxy"));
     }
@@ -133,7 +133,7 @@ class HighscoresTests : public QObject {
         qualify(2, 1, "48");
         QTest::keyClicks(&screen().Text1(1), "Eve");
         screen().close();
-        QVERIFY(!platform::screens::isLoaded(Highscores::kName));
+        QVERIFY(!platform::screens::isLoaded(Highscores::kScreen));
         QCOMPARE(tables.bestname[2][1][0], string("Eve"));
 
         // A record while the tables are on view: red again, the new time shown.
