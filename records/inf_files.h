@@ -16,7 +16,8 @@
 // disk and renamed over the old file, so a failed or interrupted save leaves
 // the old file whole. An old file that the player could not open for output
 // (read-only, say) fails the save and stays as it is; a replaced file keeps
-// its permissions.
+// its permissions. A "<path>.tmp" left by a save that was killed is cleared
+// by the next save, and saves into one folder take turns.
 #include <cstddef>
 #include <cstdint>
 #include <istream>
