@@ -34,8 +34,20 @@ QString enterVanishedFolder() {
 
 }  // namespace
 
-bool holdsGamePictures(const QString& folder) {
-    return platform::findFileBelow(folder, tables::kTitlePicture.path).has_value();
+bool holdsGameData(const QString& folder) {
+    const char* const kEveryCopyHas[] = {tables::kTitlePicture.path, tables::kOpeningPicture.path,
+                                         tables::kTitleMascot.path, tables::kHandCursor};
+    int found = 0;
+    for (const char* file : kEveryCopyHas) {
+        if (platform::findFileBelow(folder, file) && ++found > 1) return true;
+    }
+    return false;
+}
+
+bool hasDataLayout(const QString& folder) {
+    const auto images = platform::findFileBelow(folder, "Images");
+    const auto sounds = platform::findFileBelow(folder, "wav");
+    return images && sounds && QFileInfo(*images).isDir() && QFileInfo(*sounds).isDir();
 }
 
 Surroundings surroundings() {
@@ -50,10 +62,10 @@ Surroundings surroundings() {
 
 RunFolders chooseRunFolders(const Surroundings& around) {
     const QString installed = clean(around.programFolder + QLatin1Char('/') + around.installedData);
-    if (!around.installedData.isEmpty() && holdsGamePictures(installed))
+    if (!around.installedData.isEmpty() && hasDataLayout(installed))
         return {installed, around.playerFolder};
     for (const QString& folder : {around.startFolder, around.programFolder}) {
-        if (folder.isEmpty() || !holdsGamePictures(folder)) continue;
+        if (folder.isEmpty() || !holdsGameData(folder)) continue;
         const QString game = clean(folder);
         return {game, writable(game) ? game : around.playerFolder};
     }

@@ -26,10 +26,17 @@ struct RunFolders {
     QString work;  // the working directory; the player's folder when installed
 };
 
-// True when `folder` holds the game's pictures (an Images folder with the
-// title picture, whatever the letter case). A bare folder named "Images",
-// such as a home folder's pictures, is not enough.
-bool holdsGamePictures(const QString& folder);
+// True when `folder` is a copy of the game's data: it holds more than one of
+// the files every copy has (pictures of the title and options screens, the
+// hand cursor, the click sound), whatever the letter case. A bare folder
+// named "Images", such as a home folder's pictures, is not enough; a copy
+// that lacks one of them, its title picture say, still is one.
+bool holdsGameData(const QString& folder);
+
+// True when `folder` has the layout of an installed copy's data folder: an
+// Images and a wav folder. Only asked of the place the installed layout puts
+// it, beside the program, where nothing else would be.
+bool hasDataLayout(const QString& folder);
 
 // This run's surroundings; the player's own folder is "pimbalo" in
 // $XDG_DATA_HOME (~/.local/share). Needs the application object.

@@ -9,6 +9,9 @@ namespace platform {
 class Timer {
   public:
     Timer(QObject* owner, int intervalMs);
+    ~Timer();
+    Timer(const Timer&) = delete;
+    Timer& operator=(const Timer&) = delete;
     void setEnabled(bool on);
     bool Enabled() const { return timer_->isActive(); }
     int Interval() const { return timer_->interval(); }  // milliseconds
@@ -21,5 +24,10 @@ class Timer {
   private:
     QTimer* timer_;
 };
+
+// Stops every timer of every screen for the rest of the run, and keeps any
+// from being switched on again: the game is ending, and nothing may tick
+// under the message that says why (a check would judge a board nobody sees).
+void stopAllTimers();
 
 }  // namespace platform

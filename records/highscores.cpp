@@ -1,5 +1,7 @@
 #include "records/highscores.h"
 
+#include <QFontMetrics>
+#include <algorithm>
 #include <cstdlib>
 #include <exception>
 #include <string>
@@ -73,6 +75,25 @@ Label* makeLabel(QWidget* parent, const LabelLook& look, const std::string& capt
 // The design text "88888" counts as a time, so it shows.
 double numericValue(const std::string& text) {
     return std::strtod(text.c_str(), nullptr);
+}
+
+// The start of a name that shows in its label: whole characters up to the
+// first one that reaches the label's edge, which is drawn cut there. A name
+// read from an edited file may be far longer than the row, and laying out
+// text nobody sees would hold up the screen.
+QString visiblePart(const QString& name, const Label& label) {
+    const QFontMetrics metrics = label.fontMetrics();
+    const int width = label.contentsRect().width();
+    // Hardly a character is narrower than a pixel, so more than `width` of
+    // them never show; a binary search then finds the one at the edge.
+    int fits = 0, beyond = std::min<int>(name.size(), width + 1);
+    if (metrics.horizontalAdvance(name.left(beyond)) <= width) return name.left(beyond);
+    while (beyond - fits > 1) {
+        const int middle = (fits + beyond) / 2;
+        (metrics.horizontalAdvance(name.left(middle)) <= width ? fits : beyond) = middle;
+    }
+    if (beyond < name.size() && name.at(beyond - 1).isHighSurrogate()) ++beyond;
+    return name.left(beyond);
 }
 
 // The start-up goes on past a step that fails, so a damaged table or an odd
@@ -168,7 +189,8 @@ void Highscores::fillTables(const FastestTimes& tables, int s) {
     Label2->setCaption(text::kTitles[s]);
     for (int r = 0; r < kRanks; ++r) {
         for (int j = 0; j < kLevels; ++j) {
-            Label8(row(j, r)).setCaption(tables.bestname[s][j][r]);
+            Label& name = Label8(row(j, r));
+            name.setText(visiblePart(QString::fromStdString(tables.bestname[s][j][r]), name));
             Label9(row(j, r)).setCaption(std::to_string(tables.besttime[s][j][r]));
         }
     }

@@ -1,6 +1,7 @@
 #include "records/inf_files.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -38,20 +39,43 @@ class Lines {
     std::string_view rest_;
 };
 
+// More than any file the game writes (highscore.inf with every name at its
+// longest is under 50 KB), little enough that whatever stands in a file's
+// place cannot fill the memory.
+constexpr off_t kLargestFile = 1 << 20;
+
+// Only a plain file (or a link to one) of a sensible size is read: a pipe
+// would wait for a writer, and a device such as /dev/zero never ends.
+bool isReadableFile(const struct stat& status) {
+    return S_ISREG(status.st_mode) && status.st_size <= kLargestFile;
+}
+
 // The whole file, read with plain system calls: the files are a few hundred
 // bytes, and the title screen reads them before it is first shown, where the
 // C++ stream and locale machinery would cost more than the reading itself.
-// False when the file cannot be opened or a read fails; text then holds what
-// was read before the failure.
+// False when the file cannot be opened, is no plain file of a sensible size,
+// or a read fails; text then holds what was read before the failure.
 bool readWholeFile(const std::string& path, std::string& text) {
-    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    struct stat status {};
+    // Looked at before it is opened, since opening some devices does things.
+    if (::stat(path.c_str(), &status) != 0 || !isReadableFile(status)) return false;
+    // Non-blocking, so that a pipe swapped in since cannot make the open wait.
+    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (fd < 0) return false;
+    if (::fstat(fd, &status) != 0 || !isReadableFile(status)) {
+        ::close(fd);
+        return false;
+    }
     char buffer[4096];
     ssize_t n = 0;
     while ((n = ::read(fd, buffer, sizeof buffer)) != 0) {
         if (n < 0 && errno == EINTR) continue;
         if (n < 0) break;
         text.append(buffer, static_cast<std::size_t>(n));
+        if (text.size() > static_cast<std::size_t>(kLargestFile)) {
+            text.clear();  // it grew past the limit since: read as too large
+            break;
+        }
     }
     ::close(fd);
     return n == 0;
@@ -127,13 +151,50 @@ bool mayReplace(const std::string& path, std::optional<mode_t>& mode) {
     return true;
 }
 
+// Saves into one folder take turns: a game started twice by the same player
+// must not rename the other's half-written temporary file into place. The
+// lock goes with the folder's descriptor, so a game killed mid-save leaves
+// none behind. A folder that cannot be locked (some network file systems) is
+// saved into unlocked; one that another save holds for long fails the save.
+class FolderLock {
+  public:
+    explicit FolderLock(const std::string& path) {
+        std::filesystem::path folder = std::filesystem::path(path).parent_path();
+        if (folder.empty()) folder = ".";
+        fd_ = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        if (fd_ < 0) return;
+        for (int attempt = 0; attempt < 100; ++attempt) {
+            if (::flock(fd_, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) return;
+            ::usleep(20'000);
+        }
+        held_ = true;
+    }
+    ~FolderLock() {
+        if (fd_ >= 0) ::close(fd_);
+    }
+    FolderLock(const FolderLock&) = delete;
+    FolderLock& operator=(const FolderLock&) = delete;
+    bool heldElsewhere() const { return held_; }
+
+  private:
+    int fd_ = -1;
+    bool held_ = false;
+};
+
 // Writes the whole file next to path and renames it over path, so readers see
 // either the old file or the new one, never a part.
 bool replaceFile(const std::string& path, const std::string& bytes) {
+    const FolderLock turn(path);
+    if (turn.heldElsewhere()) return false;
+    // With the folder ours, a temporary file already there is left by a save
+    // that was cut short. It goes whatever it is (another user's, read-only,
+    // a link or a pipe), and the new one is made afresh, never followed.
+    const std::string temporary = path + ".tmp";
+    ::unlink(temporary.c_str());
     std::optional<mode_t> mode;
     if (!mayReplace(path, mode)) return false;
-    const std::string temporary = path + ".tmp";
-    const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    const int fd =
+        ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
     if (fd < 0) return false;
     if (mode) ::fchmod(fd, *mode);  // best effort: the contents matter more
     const bool written = writeAll(fd, bytes) && ::fsync(fd) == 0;
@@ -183,7 +244,8 @@ bool loadHighscoresText(std::string_view text, FastestTimes& tables) {
         if (!lines.next(line)) return false;
         const Field at = highscoreField(f);
         if (at.isName) {
-            tables.bestname[at.size][at.level][at.rank] = latin1ToUtf8(line);
+            tables.bestname[at.size][at.level][at.rank] =
+                latin1ToUtf8(std::string_view(line).substr(0, kLongestKeptName));
         } else {
             tables.besttime[at.size][at.level][at.rank] = timeFromText(line);
         }

@@ -4,6 +4,9 @@
 // lines). Every line ends with CR LF; numbers are plain decimals; names are
 // Latin-1 on disk and UTF-8 in memory.
 //
+// Only a plain file (or a link to one) of at most 1 MB is read: anything else
+// in its place, a pipe or a device, reads as a missing file.
+//
 // Reading, line by line: a line ends at LF, and a CR just before it (or at the
 // end of the file) is dropped, so files edited with LF-only line ends still
 // read. A last line without a line end still counts. A number line that is not
@@ -13,7 +16,9 @@
 // disk and renamed over the old file, so a failed or interrupted save leaves
 // the old file whole. An old file that the player could not open for output
 // (read-only, say) fails the save and stays as it is; a replaced file keeps
-// its permissions.
+// its permissions. A "<path>.tmp" left by a save that was killed is cleared
+// by the next save, and saves into one folder take turns.
+#include <cstddef>
 #include <cstdint>
 #include <istream>
 #include <string>
@@ -29,6 +34,8 @@ inline constexpr char kLastGameFile[] = "lastgame.inf";
 inline constexpr char kHighscoreFile[] = "highscore.inf";
 
 constexpr int kLastGameFields = 4;
+// A typed name has at most 25 characters; longer ones come from edited files.
+constexpr std::size_t kLongestKeptName = 1000;
 
 // lastgame.inf holds four of the shared options, in this order: playsound,
 // timerson, hidedesktop and boardsize. level is never saved, nor read.
@@ -44,7 +51,8 @@ bool loadLastGame(const std::string& path, tables::Options& options);
 
 // Also sets tables.fieldsread to the number of fields taken (0..90). Nothing
 // else is checked: tables out of order, or names beside empty entries, are
-// kept as read.
+// kept as read. Only a name of absurd length is cut: its first
+// kLongestKeptName characters are kept (and saved back).
 bool loadHighscoresText(std::string_view text, FastestTimes& tables);
 bool loadHighscores(std::istream& in, FastestTimes& tables);
 bool loadHighscores(const std::string& path, FastestTimes& tables);

@@ -107,6 +107,26 @@ class RunFoldersTests : public QObject {
         QCOMPARE(filesBelow(root_.path()).size(), 3);  // the two game files and the blocker
     }
 
+    // A copy that lacks its title picture is still found, installed or not
+    // (its title screen then shows without it); one file of that name in a
+    // folder of the player's is no game folder.
+    void aCopyWithoutItsTitlePictureIsStillFound() {
+        const QString data = makeGameFolder(path("prefix/share/games/pimbalo"));
+        QFile::remove(data + "/Images/pimbalo.jpg");
+        const QString elsewhere = QDir(path("home")).absolutePath();
+        writeFile(elsewhere + "/Images/pimbalo.jpg");
+        app::RunFolders used =
+            app::settle({elsewhere, path("prefix/games"), "../share/games/pimbalo", path("p"), {}});
+        QCOMPARE(used.data, data);
+
+        const QString game = makeGameFolder(path("build/game"));
+        writeFile(game + "/Images/logo4.jpg");
+        QFile::remove(game + "/Images/pimbalo.jpg");
+        used = app::settle({elsewhere, game, "../share/games/pimbalo", path("p"), {}});
+        QCOMPARE(used.data, game);
+        QCOMPARE(used.work, game);
+    }
+
     void withoutPicturesTheGameStaysWhereItWasStarted() {
         QDir().mkpath(path("somewhere/images"));
         const QString start = QDir(path("somewhere")).canonicalPath();

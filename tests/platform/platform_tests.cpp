@@ -395,6 +395,25 @@ class PlatformTests : public QObject {
         setSoundObserver(nullptr);
         QCOMPARE(asked, QStringList({"wav\\BEEP.wav", "wav\\nothere.wav"}));
     }
+
+    // Every timer stops before a fatal error's message, and none can start
+    // again under it. Last, since no timer of this test program ticks after.
+    void aFatalErrorStopsEveryTimerForGood() {
+        QObject screen;
+        Timer clock(&screen, 1000), check(&screen, 1000);
+        clock.setEnabled(true);
+        check.setEnabled(true);
+        bool tickingAtTheMessage = true;
+        setFatalHandler([&](const QString& m) {
+            tickingAtTheMessage = clock.Enabled() || check.Enabled();
+            throw FatalError(m.toStdString());
+        });
+        QVERIFY_THROWS_EXCEPTION(FatalError, loadPicture("Images\\nothere.jpg"));
+        setFatalHandler([](const QString& m) { throw FatalError(m.toStdString()); });
+        QVERIFY(!tickingAtTheMessage);
+        check.setEnabled(true);  // as a drop that fills the board would
+        QVERIFY(!check.Enabled());
+    }
 };
 
 QTEST_MAIN(PlatformTests)

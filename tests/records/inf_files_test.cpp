@@ -2,7 +2,9 @@
 #include "records/inf_files.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -150,6 +152,153 @@ TEST_F(InfFiles, FailedSaveLeavesTheOldFilesWhole) {
     EXPECT_EQ(read(highscore_), fileOf(90, {}));
 }
 
+// Runs `step` in a child process that may take at most a few seconds and, in
+// the plain build, half a gigabyte: a read that waits on a pipe or swallows an
+// endless device fails the test instead of hanging or filling the machine.
+template <class Step>
+bool passesInChild(Step step) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::alarm(5);
+#ifndef __SANITIZE_ADDRESS__  // the sanitizer reserves far more than it uses
+        const rlimit memory{512u << 20, 512u << 20};
+        ::setrlimit(RLIMIT_AS, &memory);
+#endif
+        bool passed = false;
+        try {
+            passed = step();
+        } catch (...) {
+        }
+        ::_exit(passed ? 0 : 1);
+    }
+    int status = 0;
+    return child > 0 && ::waitpid(child, &status, 0) == child && WIFEXITED(status) &&
+           WEXITSTATUS(status) == 0;
+}
+
+// Whatever stands in a file's place that is not a plain file reads as a
+// missing file: no field is taken, and the start-up read fails.
+TEST_F(InfFiles, OnlyPlainFilesOfSensibleSizeAreRead) {
+    const std::string records = fileOf(90, {{1, "35"}, {10, "Ann"}});
+    write(path("real.inf"), records);
+    write(lastgame_, "1\r\n1\r\n1\r\n2\r\n");
+    ASSERT_EQ(::symlink(path("real.inf").c_str(), highscore_.c_str()), 0);
+    FastestTimes t;
+    Options options;
+    EXPECT_TRUE(records::loadBoth(lastgame_, highscore_, options, t));  // a link to a file is fine
+    EXPECT_EQ(t.bestname[0][0][0], "Ann");
+
+    // A pipe with no writer, a device without end, and a file far larger than
+    // the game ever writes, each in place of either file.
+    const std::string huge = records + std::string(std::size_t{1} << 20, 'x');
+    for (const std::string standIn : {"pipe", "/dev/zero", "huge"}) {
+        for (const std::string* file : {&lastgame_, &highscore_}) {
+            write(lastgame_, "1\r\n1\r\n1\r\n2\r\n");
+            fs::remove(*file);
+            if (standIn == "pipe") {
+                ASSERT_EQ(::mkfifo(file->c_str(), 0600), 0);
+            }
+            if (standIn == "/dev/zero") fs::create_symlink(standIn, *file);
+            if (standIn == "huge") write(*file, huge);
+            EXPECT_TRUE(passesInChild([&] {
+                FastestTimes tables;
+                Options got{7, 7, 7, 7, 7};
+                return !records::loadBoth(lastgame_, highscore_, got, tables) &&
+                       tables.fieldsread == 0 && tables.besttime[0][0][0] == 0 &&
+                       got.playsound == (file == &lastgame_ ? 7 : 1);
+            })) << standIn
+                << " as " << *file;
+            // Nor does the exit save wait or swallow, whether it can replace it or not.
+            EXPECT_TRUE(passesInChild([&] {
+                records::saveBoth(lastgame_, highscore_, {}, FastestTimes{});
+                return true;
+            })) << standIn
+                << " as " << *file;
+            fs::remove(*file);
+        }
+    }
+}
+
+// A name of absurd length in an edited file is cut to its first thousand
+// characters (not bytes: Latin-1 letters are two bytes in memory), and that
+// is what the next save writes.
+TEST_F(InfFiles, AbsurdlyLongNamesAreCut) {
+    const std::string letters(1500, '\xe9');  // é in Latin-1
+    write(highscore_, fileOf(90, {{10, letters}, {11, std::string(100'000, 'n')}}));
+    FastestTimes t;
+    ASSERT_TRUE(records::loadHighscores(highscore_, t));
+    std::string e1000;
+    for (int i = 0; i < 1000; ++i) e1000 += "\xc3\xa9";
+    // Compared whole but reported short: a failure would print megabytes.
+    EXPECT_TRUE(t.bestname[0][0][0] == e1000) << t.bestname[0][0][0].size() << " bytes";
+    EXPECT_TRUE(t.bestname[0][1][0] == std::string(1000, 'n')) << t.bestname[0][1][0].size();
+    ASSERT_TRUE(records::saveHighscores(highscore_, t));
+    EXPECT_TRUE(read(highscore_) ==
+                fileOf(90, {{10, letters.substr(0, 1000)}, {11, std::string(1000, 'n')}}))
+        << read(highscore_).size() << " bytes written";
+}
+
+// A save killed between writing and renaming leaves its temporary file. The
+// next save clears it whatever it has become, and never writes through it.
+TEST_F(InfFiles, StaleTemporaryFilesAreClearedNotFollowed) {
+    const std::string temporary = highscore_ + ".tmp";
+    const FastestTimes empty;
+    write(path("other"), "someone else's");
+    fs::create_symlink(path("other"), temporary);
+    ASSERT_TRUE(records::saveHighscores(highscore_, empty));
+    EXPECT_EQ(read(path("other")), "someone else's");
+    EXPECT_FALSE(fs::is_symlink(highscore_));
+    EXPECT_EQ(read(highscore_), fileOf(90, {}));
+    EXPECT_FALSE(fs::exists(temporary));
+
+    ASSERT_EQ(::mkfifo(temporary.c_str(), 0600), 0);  // would wait for a reader
+    EXPECT_TRUE(passesInChild([&] { return records::saveHighscores(highscore_, empty); }));
+    EXPECT_FALSE(fs::exists(temporary));
+
+    // Cleared even by a save that fails: here the file is a folder.
+    fs::create_directory(path("folder.inf"));
+    write(path("folder.inf.tmp"), records::highscoreText(empty));
+    EXPECT_FALSE(records::saveHighscores(path("folder.inf"), empty));
+    EXPECT_FALSE(fs::exists(path("folder.inf.tmp")));
+}
+
+// Two games saving into one folder at once (one player, two windows): each
+// save succeeds, and every read finds one save or the other, whole.
+TEST_F(InfFiles, SavesAtOnceNeverTearEachOther) {
+    FastestTimes a, b;
+    for (int s = 0; s < records::kSizes; ++s)
+        for (int j = 0; j < records::kLevels; ++j)
+            for (int r = 0; r < records::kRanks; ++r) {
+                a.bestname[s][j][r] = std::string(300, 'a');
+                b.bestname[s][j][r] = "b";
+            }
+    const std::string textA = records::highscoreText(a), textB = records::highscoreText(b);
+    ASSERT_TRUE(records::saveHighscores(highscore_, a));
+    pid_t savers[2];
+    for (int i = 0; i < 2; ++i) {
+        savers[i] = ::fork();
+        if (savers[i] == 0) {
+            int failed = 0;
+            for (int n = 0; n < 60; ++n) failed += !records::saveHighscores(highscore_, i ? b : a);
+            ::_exit(failed);
+        }
+    }
+    int torn = 0, reads = 0, failed = 0;
+    for (pid_t& saver : savers) {
+        while (saver != 0) {
+            const std::string now = read(highscore_);
+            torn += now != textA && now != textB;
+            ++reads;
+            int status = 0;
+            if (::waitpid(saver, &status, WNOHANG) != saver) continue;
+            failed += WIFEXITED(status) ? WEXITSTATUS(status) : 60;
+            saver = 0;
+        }
+    }
+    EXPECT_EQ(torn, 0) << "of " << reads << " reads";
+    EXPECT_EQ(failed, 0) << "saves failed";  // each waits for the other's turn
+}
+
 // A file the player may not write is never replaced by the rename-over save,
 // even in a writable folder: the save fails and both files stay as they were.
 // A file that is replaced keeps its permissions. Root may write any file, so
@@ -181,6 +330,10 @@ TEST_F(InfFiles, FilesThePlayerMayNotWriteStayAsTheyAre) {
         fs::remove(*readOnly);
     }
 
+    // A temporary file the player may not write (left by a killed save of
+    // another user's, say) is cleared, not a reason to fail.
+    write(highscore_ + ".tmp", oldRecords);
+    fs::permissions(highscore_ + ".tmp", fs::perms::owner_read);
     write(highscore_, oldRecords);
     fs::permissions(highscore_, fs::perms::owner_read | fs::perms::owner_write);
     ASSERT_TRUE(records::saveHighscores(highscore_, tables));

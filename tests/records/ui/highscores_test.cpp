@@ -19,6 +19,7 @@ class HighscoresTests : public QObject {
     static inline records::FastestTimes tables;
     static inline std::int16_t newrank = 0;
     static Highscores& screen() { return records::highscores(); }
+    static int row(int level, int rank) { return level * records::kRanks + rank; }
     static QColor textColour(const QWidget& w) { return w.palette().color(QPalette::WindowText); }
     static void setEntry(int size, int level, int rank, int time, const string& name) {
         tables.besttime[size][level][rank] = std::int16_t(time);
@@ -90,6 +91,25 @@ class HighscoresTests : public QObject {
                 QCOMPARE(textColour(s.Label9(k)), kYellow);
             }
         }
+    }
+
+    // A name far longer than its row (from an edited file) shows only its
+    // start, up to the character cut by the label's edge: laying out the rest
+    // held the screen up. The table keeps the whole name.
+    void aLongNameShowsOnlyWhatFitsItsRow() {
+        const string longName = "Zo" + string(100'000, 'W');
+        setEntry(0, 2, 0, 35, longName);
+        records::openForViewing(tables, 0, kBlue);
+        Highscores& s = screen();
+        QVERIFY(QTest::qWaitForWindowExposed(&s));
+        const platform::Label& name = s.Label8(row(2, 0));
+        const QString shown = name.text();
+        QVERIFY2(QString::fromStdString(longName).startsWith(shown) && shown.size() < 100,
+                 qPrintable(shown));
+        const QFontMetrics metrics = name.fontMetrics();
+        QVERIFY(metrics.horizontalAdvance(shown) > name.width());
+        QVERIFY(metrics.horizontalAdvance(shown.chopped(1)) <= name.width());
+        QCOMPARE(tables.bestname[0][2][0], longName);
     }
 
     void nameEntryOverTheNewRow() {
