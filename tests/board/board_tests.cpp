@@ -670,6 +670,35 @@ class BoardTests : public QObject {
         QCOMPARE(said(b.Image1(given), QAccessible::Description),
                  QString("Given, cannot be moved"));
     }
+
+    // A command the board hides (the fastest times with the clock off, "New
+    // Puzzle" once a piece lies on the grid) offers no action to assistive
+    // technology, and pressing it anyway changes nothing.
+    void hiddenCommandsCannotBePressed() {
+        Board& b = open(0, 0, 0);
+        auto press = [](QWidget& control) {
+            QAccessibleInterface* command = QAccessible::queryAccessibleInterface(&control);
+            const QStringList offered = command->actionInterface()->actionNames();
+            command->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+            return offered;
+        };
+        QVERIFY(!b.Label3(FastestTimes).Visible());
+        QCOMPARE(press(b.Label3(FastestTimes)), QStringList());
+        QVERIFY(!scores());
+
+        const int cell = firstCell(b, false);
+        dragTo(b, solutionPiece(b, cell), b.Image1(cell));
+        QVERIFY(!b.Label3(NewPuzzle).Visible());
+        const auto solution = b.game().solution;
+        QCOMPARE(press(b.Label3(NewPuzzle)), QStringList());
+        QVERIFY(b.game().solution == solution && pieceOn(b, cell) >= 0);
+        QVERIFY(takeSounds() == kClick1);  // the drop's; none from a command
+
+        // Shown again, the same command presses as before.
+        QCOMPARE(press(b.Label3(ShowSolution)),
+                 QStringList{QAccessibleActionInterface::pressAction()});
+        QVERIFY(b.Label3(NewPuzzle).Visible());
+    }
 };
 
 QTEST_MAIN(BoardTests)
