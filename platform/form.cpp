@@ -204,6 +204,19 @@ void Form::moveEvent(QMoveEvent* e) {
     if (centred_ && frame != centredWithFrame_) placeCentred();
 }
 
+// None of the game's windows offers a way to minimise it, and a child has no
+// task bar to find one again in; yet a window manager may still minimise a
+// borderless screen (a key, its window menu). A shown screen comes back at
+// once, when the window manager has finished.
+void Form::changeEvent(QEvent* e) {
+    QWidget::changeEvent(e);
+    if (e->type() != QEvent::WindowStateChange || !(windowState() & Qt::WindowMinimized)) return;
+    QTimer::singleShot(0, this, [this] {
+        if (isVisible() && (windowState() & Qt::WindowMinimized))
+            setWindowState(windowState() & ~Qt::WindowMinimized);
+    });
+}
+
 void Form::paintEvent(QPaintEvent* e) {
     QWidget::paintEvent(e);
     if (client_ == this) return;

@@ -74,6 +74,7 @@ class Form : public QWidget {
 
     void mouseMoveEvent(QMouseEvent* e) override;
     void moveEvent(QMoveEvent* e) override;
+    void changeEvent(QEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
     void paintEvent(QPaintEvent* e) override;
 
