@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -226,9 +227,18 @@ void Form::paintEvent(QPaintEvent* e) {
     painter.fillRect(rect().adjusted(border, border, -border, -border), back_);
 }
 
+// A close key held down repeats, and each repeat would close the screen that
+// came up under the one just closed: from the fastest times through the board
+// and the options screen out of the game. So a close request from the desktop
+// that follows the previous one within a moment is taken for that key still
+// held, and ignored; one press closes one screen.
 void Form::closeEvent(QCloseEvent* e) {
     e->ignore();
-    Form_QueryUnload();
+    static QElapsedTimer sinceLastRequest;
+    const bool repeated = e->spontaneous() && sinceLastRequest.isValid() &&
+                          sinceLastRequest.elapsed() < kCloseRepeatMs;
+    if (e->spontaneous()) sinceLastRequest.start();
+    if (!repeated) Form_QueryUnload();
 }
 
 namespace screens {

@@ -507,6 +507,37 @@ class BoardTests : public QObject {
         platform::screens::setEndHandler({});
     }
 
+    // A close key held down repeats. The first request closes the fastest
+    // times as their "Continue"; the repeats that follow, landing on the board
+    // and then on the options screen, are ignored, so the game goes on. A new
+    // press a moment later closes the board as its "Exit" does.
+    void heldCloseKeyClosesOneScreen() {
+        bool ended = false;
+        platform::screens::setEndHandler([&] { ended = true; });
+        Board& b = open(0, 0, 1);
+        click(b, b.Label3(FastestTimes));
+        QVERIFY(scores());
+        auto desktopCloses = [](QWidget& window) {  // as from the window manager
+            QCloseEvent request;
+            QSpontaneKeyEvent::setSpontaneous(&request);
+            static_cast<QObject&>(window).event(&request);  // sendEvent would clear that
+        };
+        desktopCloses(*scores());
+        QVERIFY(!scores());
+        for (int repeat = 0; repeat < 5; ++repeat) {
+            QVERIFY(platform::screens::loaded("jigsaw") == &b);
+            desktopCloses(b);
+            QTest::qWait(40);
+        }
+        QVERIFY(platform::screens::loaded("jigsaw") == &b && b.isVisible() && !ended);
+
+        QTest::qWait(platform::kCloseRepeatMs);
+        desktopCloses(b);
+        QVERIFY(!platform::screens::isLoaded("jigsaw"));
+        QVERIFY(platform::screens::get("Startplay2").isVisible() && !ended);
+        platform::screens::setEndHandler({});
+    }
+
     // Playing without dragging. A click picks a piece and a click on a cell
     // drops it there; on a given it bounces off; a click on another movable
     // piece moves the pick to it; Escape, a drag or an empty tray slot ends it.
