@@ -3,6 +3,17 @@
 # time, so that they name the program and data where they really land.
 install(TARGETS pimbalo RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(TARGETS pimbalo_sound LIBRARY DESTINATION "${PIMBALO_INSTALL_MODULEDIR}")
+# A stripped install (the package) also drops the compilers' notes, as
+# Debian's own packaging does.
+install(CODE "
+    if(CMAKE_INSTALL_DO_STRIP)
+        foreach(file \"${CMAKE_INSTALL_BINDIR}/$<TARGET_FILE_NAME:pimbalo>\"
+                     \"${PIMBALO_INSTALL_MODULEDIR}/$<TARGET_FILE_NAME:pimbalo_sound>\")
+            execute_process(COMMAND \"${CMAKE_OBJCOPY}\" --remove-section=.comment
+                                    \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/\${file}\")
+        endforeach()
+    endif()
+")
 install(DIRECTORY "${PIMBALO_GAME_DIR}/Images" "${PIMBALO_GAME_DIR}/wav" "${PIMBALO_GAME_DIR}/icons"
         DESTINATION "${PIMBALO_INSTALL_DATADIR}")
 install(DIRECTORY "${PIMBALO_GAME_DIR}/icons/hicolor" DESTINATION "${CMAKE_INSTALL_DATADIR}/icons")

@@ -21,10 +21,14 @@ class DescribedControl : public QAccessibleWidget {
         if (t == QAccessible::Description && text_.description) return text_.description();
         return QAccessibleWidget::text(t);
     }
+    // A hidden or disabled command is not there for the player: it cannot be
+    // pressed or focused this way either.
     QStringList actionNames() const override {
+        if (!takesInput(*widget())) return {};
         return text_.press ? QStringList{pressAction()} : QAccessibleWidget::actionNames();
     }
     void doAction(const QString& action) override {
+        if (!takesInput(*widget())) return;
         if (text_.press && action == pressAction())
             text_.press();
         else
@@ -42,6 +46,10 @@ QAccessibleInterface* describedFactory(const QString&, QObject* object) {
 }
 
 }  // namespace
+
+bool takesInput(const QWidget& control) {
+    return control.isVisible() && control.isEnabled();
+}
 
 void setAccessibleText(QWidget& control, AccessibleText text) {
     static const bool installed = (QAccessible::installFactory(describedFactory), true);

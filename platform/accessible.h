@@ -19,4 +19,8 @@ struct AccessibleText {
 
 void setAccessibleText(QWidget& control, AccessibleText text);
 
+// Whether the player can reach the control at all: shown, on a shown screen,
+// and enabled. Nothing else may press or focus it.
+bool takesInput(const QWidget& control);
+
 }  // namespace platform

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -210,6 +211,19 @@ void Form::moveEvent(QMoveEvent* e) {
     if (centred_ && frame != centredWithFrame_) placeCentred();
 }
 
+// None of the game's windows offers a way to minimise it, and a child has no
+// task bar to find one again in; yet a window manager may still minimise a
+// borderless screen (a key, its window menu). A shown screen comes back at
+// once, when the window manager has finished.
+void Form::changeEvent(QEvent* e) {
+    QWidget::changeEvent(e);
+    if (e->type() != QEvent::WindowStateChange || !(windowState() & Qt::WindowMinimized)) return;
+    QTimer::singleShot(0, this, [this] {
+        if (isVisible() && (windowState() & Qt::WindowMinimized))
+            setWindowState(windowState() & ~Qt::WindowMinimized);
+    });
+}
+
 void Form::paintEvent(QPaintEvent* e) {
     QWidget::paintEvent(e);
     if (client_ == this) return;
@@ -219,9 +233,18 @@ void Form::paintEvent(QPaintEvent* e) {
     painter.fillRect(rect().adjusted(border, border, -border, -border), back_);
 }
 
+// A close key held down repeats, and each repeat would close the screen that
+// came up under the one just closed: from the fastest times through the board
+// and the options screen out of the game. So a close request from the desktop
+// that follows the previous one within a moment is taken for that key still
+// held, and ignored; one press closes one screen.
 void Form::closeEvent(QCloseEvent* e) {
     e->ignore();
-    Form_QueryUnload();
+    static QElapsedTimer sinceLastRequest;
+    const bool repeated = e->spontaneous() && sinceLastRequest.isValid() &&
+                          sinceLastRequest.elapsed() < kCloseRepeatMs;
+    if (e->spontaneous()) sinceLastRequest.start();
+    if (!repeated) Form_QueryUnload();
 }
 
 namespace screens {

@@ -21,6 +21,10 @@ enum class FormKind {
 // than a full-size screen, so with this border it covers that screen's width.
 constexpr float kOverlayBorderTwips = 75.0f;
 
+// Close requests from the desktop closer together than this are one close key
+// held down (keys repeat after about half a second, then every few dozen ms).
+constexpr int kCloseRepeatMs = 1000;
+
 class Form : public QWidget {
     Q_OBJECT
   public:
@@ -33,7 +37,8 @@ class Form : public QWidget {
     // The pointer moves over the window's own background.
     virtual void Form_MouseMove(int button, int shift, float x, float y);
     // The window manager asks to close the window (its close button, Alt+F4):
-    // by default the game ends, as the title screen's "Exit" ends it.
+    // by default the game ends, as the title screen's "Exit" ends it. A
+    // request repeated within kCloseRepeatMs (a held key) does not come here.
     virtual void Form_QueryUnload();
 
     // Where the screen's controls live: the window itself, or for an overlay
@@ -75,6 +80,7 @@ class Form : public QWidget {
 
     void mouseMoveEvent(QMouseEvent* e) override;
     void moveEvent(QMoveEvent* e) override;
+    void changeEvent(QEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
     void paintEvent(QPaintEvent* e) override;
 

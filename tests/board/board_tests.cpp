@@ -508,6 +508,37 @@ class BoardTests : public QObject {
         platform::screens::setEndHandler({});
     }
 
+    // A close key held down repeats. The first request closes the fastest
+    // times as their "Continue"; the repeats that follow, landing on the board
+    // and then on the options screen, are ignored, so the game goes on. A new
+    // press a moment later closes the board as its "Exit" does.
+    void heldCloseKeyClosesOneScreen() {
+        bool ended = false;
+        platform::screens::setEndHandler([&] { ended = true; });
+        Board& b = open(0, 0, 1);
+        click(b, b.Label3(FastestTimes));
+        QVERIFY(scores());
+        auto desktopCloses = [](QWidget& window) {  // as from the window manager
+            QCloseEvent request;
+            QSpontaneKeyEvent::setSpontaneous(&request);
+            static_cast<QObject&>(window).event(&request);  // sendEvent would clear that
+        };
+        desktopCloses(*scores());
+        QVERIFY(!scores());
+        for (int repeat = 0; repeat < 5; ++repeat) {
+            QVERIFY(platform::screens::loaded(tables::Screen::jigsaw) == &b);
+            desktopCloses(b);
+            QTest::qWait(40);
+        }
+        QVERIFY(platform::screens::loaded(tables::Screen::jigsaw) == &b && b.isVisible() && !ended);
+
+        QTest::qWait(platform::kCloseRepeatMs);
+        desktopCloses(b);
+        QVERIFY(!platform::screens::isLoaded(tables::Screen::jigsaw));
+        QVERIFY(platform::screens::get(tables::Screen::Startplay2).isVisible() && !ended);
+        platform::screens::setEndHandler({});
+    }
+
     // Playing without dragging. A click picks a piece and a click on a cell
     // drops it there; on a given it bounces off; a click on another movable
     // piece moves the pick to it; Escape, a drag or an empty tray slot ends it.
@@ -670,6 +701,35 @@ class BoardTests : public QObject {
                  QString("Row %1, column %2: ").arg(cell / 5 + 1).arg(cell % 5 + 1) + picture);
         QCOMPARE(said(b.Image1(given), QAccessible::Description),
                  QString("Given, cannot be moved"));
+    }
+
+    // A command the board hides (the fastest times with the clock off, "New
+    // Puzzle" once a piece lies on the grid) offers no action to assistive
+    // technology, and pressing it anyway changes nothing.
+    void hiddenCommandsCannotBePressed() {
+        Board& b = open(0, 0, 0);
+        auto press = [](QWidget& control) {
+            QAccessibleInterface* command = QAccessible::queryAccessibleInterface(&control);
+            const QStringList offered = command->actionInterface()->actionNames();
+            command->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+            return offered;
+        };
+        QVERIFY(!b.Label3(FastestTimes).Visible());
+        QCOMPARE(press(b.Label3(FastestTimes)), QStringList());
+        QVERIFY(!scores());
+
+        const int cell = firstCell(b, false);
+        dragTo(b, solutionPiece(b, cell), b.Image1(cell));
+        QVERIFY(!b.Label3(NewPuzzle).Visible());
+        const auto solution = b.game().solution;
+        QCOMPARE(press(b.Label3(NewPuzzle)), QStringList());
+        QVERIFY(b.game().solution == solution && pieceOn(b, cell) >= 0);
+        QVERIFY(takeSounds() == kClick1);  // the drop's; none from a command
+
+        // Shown again, the same command presses as before.
+        QCOMPARE(press(b.Label3(ShowSolution)),
+                 QStringList{QAccessibleActionInterface::pressAction()});
+        QVERIFY(b.Label3(NewPuzzle).Visible());
     }
 };
 

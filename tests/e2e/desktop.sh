@@ -292,6 +292,21 @@ desktop_on_name_entry() {
     done
 }
 
+# On a desktop the name entry is left with Alt+F4 sent to the window itself,
+# as where the window manager leaves that key to the game: it is "Continue"
+# there, so the game goes on and the name typed reaches highscore.inf.
+desktop_continue_by_key() {
+    [[ -n $desktop_wm ]] || return 1
+    desktop_log desktop_continue_by_key
+    xdotool key --window "$(window_id highscores)" alt+F4 || true
+    # The window went at the key press, so xdotool may have failed to release
+    # the keys: held, they repeat. The game goes on all the same.
+    sleep 2
+    expect_running "Alt+F4 on the fastest-times screen, held"
+    xdotool keyup F4 Alt_L
+    sleep 1  # a close request right after the key's repeats counts as one of them
+}
+
 # Viewing the fastest times and closing them through the window manager is
 # their "Continue": the board stays.
 desktop_after_name_entry() {
@@ -387,6 +402,7 @@ desktop_quiet_game() {
     options=$(wait_screen Startplay2)
     wait_gone jigsaw
     expect_running "closing a board"
+    sleep 1  # a close right after another is taken for the same key held down
     close_by_wm Startplay2 alt-f4
     expect_game_ends "closing the options screen"
     sleep 0.5  # anything still playing reaches the recording

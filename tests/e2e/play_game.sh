@@ -224,7 +224,7 @@ xdotool type --delay 80 "$typed"
 sleep 0.5  # the screen copies the name every 100 ms
 shot name-typed
 solved_within=$((SECONDS - started + 1))
-click_control "$scores" 12960 120 1935 495  # "Continue"
+desktop_continue_by_key || click_control "$scores" 12960 120 1935 495  # "Continue"
 wait_gone highscores
 shot board-after
 desktop_after_name_entry

@@ -5,11 +5,12 @@
 #
 # the program, pictures, sounds, menu entry, icons, metadata and manual page
 # at Debian's places for games, filled for /usr, and Depends worked out from
-# the libraries the program links.
+# the libraries the program links; and Debian's own checks (lintian) find no
+# error and no warning in it.
 set -euo pipefail
 build=$1 out=$2 id=$3
 
-for tool in cpack dpkg-deb dpkg-shlibdeps; do
+for tool in cpack dpkg-deb dpkg-shlibdeps dpkg-architecture lintian; do
     if ! command -v "$tool" >/dev/null; then
         echo "SKIP: $tool is not installed"
         exit 77
@@ -28,7 +29,8 @@ debs=("$out"/pimbalo_*.deb)
 deb=${debs[0]}
 
 listing=$(dpkg-deb -c "$deb" | awk '{ print $6 }')
-for file in ./usr/games/pimbalo ./usr/lib/pimbalo/pimbalo-sound.so \
+multiarch=$(dpkg-architecture -qDEB_HOST_MULTIARCH)
+for file in ./usr/games/pimbalo "./usr/lib/$multiarch/pimbalo/pimbalo-sound.so" \
     ./usr/share/games/pimbalo/Images/pimbalo.jpg \
     ./usr/share/games/pimbalo/Images/H_POINT.cur \
     ./usr/share/games/pimbalo/wav/click.wav \
@@ -64,4 +66,10 @@ grep -qx "Exec=/usr/games/pimbalo" "$unpacked/usr/share/applications/$id.desktop
 zcat "$unpacked/usr/share/man/man6/pimbalo.6.gz" | grep -q '^\.I /usr/share/games/pimbalo$' ||
     fail "the manual page does not name /usr/share/games/pimbalo"
 rm -rf "$unpacked"
+
+# Informational tags are shown, not counted.
+status=0
+report=$(lintian --fail-on error,warning --display-info "$deb" 2>&1) || status=$?
+echo "$report"
+((status == 0)) || fail "lintian reports an error or a warning (above)"
 echo "PASS: $(basename "$deb"), Depends: $depends"
