@@ -24,7 +24,7 @@ using Clock = std::chrono::steady_clock;
 // so a server that answers again plays no burst of stale clicks.
 constexpr auto kLateAfter = std::chrono::milliseconds(500);
 // How long the program's end waits for the audio thread to let go.
-constexpr int kEndWaitMs = 2000;
+constexpr int kEndWaitMs = 1000;
 
 struct Request {
     const PcmSound* sound;
