@@ -23,6 +23,12 @@ constexpr Encoding kEncodings[] = {{kPcm, 8, PcmFormat::Sample::UInt8},
                                    {kPcm, 32, PcmFormat::Sample::Int32},
                                    {kFloat, 32, PcmFormat::Sample::Float}};
 
+quint32 littleEndian32(const QByteArray& bytes, qsizetype at) {
+    quint32 value = 0;
+    for (int i = 3; i >= 0; --i) value = value << 8 | static_cast<uchar>(bytes.at(at + i));
+    return value;
+}
+
 // Each 3-byte sample becomes the top three bytes of a 4-byte one.
 QByteArray widened24(const QByteArray& samples) {
     QByteArray wide(samples.size() / 3 * 4, '\0');
@@ -53,7 +59,7 @@ PcmSound parseWav(const QByteArray& bytes) {
     qsizetype pos = 12;
     while (pos + 8 <= bytes.size()) {
         const QByteArray id = bytes.mid(pos, 4);
-        const quint32 length = qFromLittleEndian<quint32>(bytes.constData() + pos + 4);
+        const quint32 length = littleEndian32(bytes, pos + 4);
         const qsizetype body = pos + 8;
         // A chunk running past the end: a cut-off or damaged file.
         if (length > bytes.size() - body) return sound;
