@@ -2,11 +2,10 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QLibrary>
 #include <map>
 
 #include "platform/files.h"
-#include "platform/sound_output.h"
+#include "platform/sound_thread.h"
 #include "platform/wav_file.h"
 
 namespace platform {
@@ -44,46 +43,15 @@ QString& latestFile() {
     return file;
 }
 
-// The sound module, loaded at the first sound: until then the game carries
-// none of the audio system. A module that is missing or will not load leaves
-// the game silent, like a machine without audio.
-struct Output {
-    QString file;
-    bool tried = false;
-    decltype(&pimbaloPlaySound) play = nullptr;
-    decltype(&pimbaloStopSound) stop = nullptr;
-};
-
-Output& output() {
-    static Output o;
-    return o;
-}
-
-const Output& loadedOutput() {
-    Output& o = output();
-    if (o.tried) return o;
-    o.tried = true;
-    if (o.file.isEmpty()) return o;
-    QLibrary module(o.file);
-    auto play = reinterpret_cast<decltype(&pimbaloPlaySound)>(module.resolve(PIMBALO_SOUND_PLAY));
-    auto stop = reinterpret_cast<decltype(&pimbaloStopSound)>(module.resolve(PIMBALO_SOUND_STOP));
-    if (play && stop) {
-        o.play = play;
-        o.stop = stop;
-    }
-    return o;
-}
-
-void stopPlaying() {
-    if (output().stop) output().stop();  // nothing plays before the module is there
+QString& moduleFile() {
+    static QString file;
+    return file;
 }
 
 }  // namespace
 
 void setSoundModule(const QString& file) {
-    Output& o = output();
-    o.file = file;
-    if (!o.play) o.tried = false;  // a module named late is still tried
+    moduleFile() = file;
 }
 
 QString latestSoundFile() {
@@ -98,14 +66,16 @@ void playSound(const std::string& relativePath) {
     if (observer()) observer()(relativePath);
     // A new sound replaces the one playing, even when it is missing or cannot
     // be played: the player then falls silent.
-    stopPlaying();
     latestFile().clear();
-    const auto file = findGameFile(relativePath);
-    if (!file) return;
-    const PcmSound& sound = soundOf(*file);
-    if (!sound.playable()) return;
-    latestFile() = QFileInfo(*file).absoluteFilePath();
-    if (const Output& out = loadedOutput(); out.play) out.play(&sound);
+    const PcmSound* sound = nullptr;
+    if (const auto file = findGameFile(relativePath)) {
+        const PcmSound& found = soundOf(*file);
+        if (found.playable()) {
+            sound = &found;
+            latestFile() = QFileInfo(*file).absoluteFilePath();
+        }
+    }
+    handToAudioThread(sound, moduleFile());
 }
 
 }  // namespace platform

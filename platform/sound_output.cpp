@@ -4,6 +4,7 @@
 #include <QAudioSink>
 #include <QBuffer>
 #include <QMediaDevices>
+#include <utility>
 
 namespace {
 
@@ -21,37 +22,34 @@ QAudioFormat audioFormatOf(const platform::PcmFormat& pcm) {
 }
 
 // The sound playing now, if any: a new one replaces it.
-QAudioSink*& playing() {
-    static QAudioSink* sink = nullptr;
-    return sink;
-}
+QAudioSink* playing = nullptr;
 
 }  // namespace
 
 extern "C" {
 
 Q_DECL_EXPORT void pimbaloStopSound() {
-    if (QAudioSink* sink = playing()) {
-        playing() = nullptr;
-        sink->stop();
-        sink->deleteLater();
-    }
+    delete std::exchange(playing, nullptr);  // the sink stops its stream as it goes
 }
 
-Q_DECL_EXPORT void pimbaloPlaySound(const platform::PcmSound* sound) {
+Q_DECL_EXPORT void pimbaloPlaySound(const platform::PcmSound* sound, bool (*stillWanted)()) {
     pimbaloStopSound();
-    auto* sink = new QAudioSink(QMediaDevices::defaultAudioOutput(), audioFormatOf(sound->format));
+    // The first call connects to the sound server.
+    const QAudioDevice device = QMediaDevices::defaultAudioOutput();
+    if (!stillWanted()) return;
+    auto* sink = new QAudioSink(device, audioFormatOf(sound->format));
     auto* source = new QBuffer(sink);
     source->setData(sound->samples);
     source->open(QIODevice::ReadOnly);
-    // Played out (or failed): the sink goes; nothing ever waits for it.
+    // Played out (or failed): the sink goes.
     QObject::connect(sink, &QAudioSink::stateChanged, sink, [sink](QAudio::State state) {
-        if (state == QAudio::ActiveState || playing() != sink) return;
-        playing() = nullptr;
+        if (state == QAudio::ActiveState || playing != sink) return;
+        playing = nullptr;
         sink->deleteLater();
     });
-    playing() = sink;
-    sink->start(source);
+    playing = sink;
+    sink->start(source);                     // opens a stream on the server
+    if (!stillWanted()) pimbaloStopSound();  // the server answered too late
 }
 
 }  // extern "C"

@@ -330,11 +330,11 @@ class PlatformTests : public QObject {
             if (n & 1) c.append('\0');
             return c;
         };
-        auto fmt = [](quint16 encoding, quint16 channels, quint16 bits) {
+        auto fmt = [](quint16 encoding, quint16 channels, quint16 bits, quint32 rate = 22050) {
             QByteArray f(16, '\0');
             qToLittleEndian<quint16>(encoding, f.data());
             qToLittleEndian<quint16>(channels, f.data() + 2);
-            qToLittleEndian<quint32>(22050, f.data() + 4);
+            qToLittleEndian<quint32>(rate, f.data() + 4);
             qToLittleEndian<quint16>(bits, f.data() + 14);
             return f;
         };
@@ -350,12 +350,30 @@ class PlatformTests : public QObject {
         QCOMPARE(s.format.bytesFor(1000000), 22050 * 4);
         QCOMPARE(s.samples, QByteArray("01234567"));
 
-        // A file cut short keeps the samples it has.
+        // 24-bit samples widen to 32 bits, the low byte zero.
+        s = parseWav(wav(chunk("fmt ", fmt(1, 1, 24)) + chunk("data", "abcdef")));
+        QCOMPARE(s.format.sample, PcmFormat::Sample::Int32);
+        QCOMPARE(s.samples, QByteArray("\0abc\0def", 8));
+
+        // Only what a sound card plays sensibly, each limit itself included.
+        auto playable = [&](quint16 channels, quint16 bits, quint32 rate) {
+            return parseWav(wav(chunk("fmt ", fmt(1, channels, bits, rate)) +
+                                chunk("data", QByteArray(96, '\0'))))
+                .playable();
+        };
+        QVERIFY(playable(1, 8, 8000) && playable(8, 32, 192000));
+        QVERIFY(!playable(1, 8, 7999) && !playable(1, 8, 192001) && !playable(1, 8, 0xFFFFFFFF));
+        QVERIFY(!playable(0, 16, 22050) && !playable(9, 16, 22050) &&
+                !playable(65535, 32, 0x7FFFFFFF));
+        QVERIFY(!playable(1, 12, 22050) && !playable(1, 64, 22050));
+        QVERIFY(!parseWav(wav(chunk("fmt ", fmt(2, 1, 16)) + chunk("data", "ab"))).playable());
+
+        // A chunk running past the end (a file cut short) is damage: nothing
+        // of it plays.
         QByteArray cut = wav(chunk("fmt ", fmt(1, 1, 8)) + chunk("data", "abcdef"));
         cut.chop(2);
-        QCOMPARE(parseWav(cut).samples, QByteArray("abcd"));
-
-        QVERIFY(!parseWav(wav(chunk("fmt ", fmt(2, 1, 4)) + chunk("data", "ab"))).playable());
+        QVERIFY(!parseWav(cut).playable());
+        QVERIFY(!parseWav(wav(chunk("fmt ", fmt(1, 1, 8)).left(20))).playable());
         QVERIFY(!parseWav(wav(chunk("data", "ab"))).playable());
         QVERIFY(!parseWav("RIFF").playable());
     }
@@ -377,6 +395,20 @@ class PlatformTests : public QObject {
         timer.setEnabled(true);
         QVERIFY(clock->remainingTime() > left);
         QCOMPARE(timer.Interval(), 1000);
+    }
+
+    // A header claiming 65535 channels at 2^31 - 1 samples a second would
+    // have the quarter second of silence after the sound take terabytes: the
+    // file is silent instead, as a missing one is. (It holds one such frame.)
+    void absurdWavHeadersAreSilent() {
+        QByteArray file = wavFile(140000);
+        qToLittleEndian<quint16>(65535, file.data() + 22);       // channels
+        qToLittleEndian<quint32>(0x7FFFFFFF, file.data() + 24);  // samples a second
+        qToLittleEndian<quint16>(32, file.data() + 34);          // bits
+        QDir().mkpath("wav");
+        writeFile("wav/absurd.wav", file);
+        playSound("wav\\absurd.wav");
+        QCOMPARE(latestSoundFile(), QString());
     }
 
     // The player (the real sound module, loaded here) is handed the file,
