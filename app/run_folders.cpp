@@ -8,6 +8,7 @@
 
 #include "platform/files.h"
 #include "tables/pictures.h"
+#include "tables/sounds.h"
 
 namespace app {
 
@@ -36,7 +37,8 @@ QString enterVanishedFolder() {
 
 bool holdsGameData(const QString& folder) {
     const char* const kEveryCopyHas[] = {tables::kTitlePicture.path, tables::kOpeningPicture.path,
-                                         tables::kTitleMascot.path, tables::kHandCursor};
+                                         tables::kTitleMascot.path, tables::kHandCursor,
+                                         tables::kClickWav};
     int found = 0;
     for (const char* file : kEveryCopyHas) {
         if (platform::findFileBelow(folder, file) && ++found > 1) return true;

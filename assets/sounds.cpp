@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "tables/sounds.h"
+
 namespace assets {
 
 namespace {
@@ -175,8 +177,11 @@ void putTag(std::vector<std::uint8_t>& out, const char* tag) {
 }  // namespace
 
 std::vector<Sound> gameSounds() {
-    return {{"click.wav", click()},  {"click1.wav", click1()}, {"space.wav", space()},
-            {"METAL2.wav", metal()}, {"boink.wav", boink()},   {"fanf3.wav", fanfare()}};
+    using tables::soundFileName;
+    return {
+        {soundFileName(tables::kClickWav), click()}, {soundFileName(tables::kClick1Wav), click1()},
+        {soundFileName(tables::kSpaceWav), space()}, {soundFileName(tables::kMetal2Wav), metal()},
+        {soundFileName(tables::kBoinkWav), boink()}, {soundFileName(tables::kFanf3Wav), fanfare()}};
 }
 
 std::vector<std::uint8_t> wavFile(const std::vector<double>& samples) {

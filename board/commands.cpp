@@ -4,6 +4,7 @@
 #include "records/highscores.h"
 #include "records/inf_files.h"
 #include "shell/module1.h"
+#include "tables/sounds.h"
 #include "tables/texts.h"
 
 namespace board {
@@ -57,7 +58,7 @@ void Board::exitBoard() {
     platform::screens::show(tables::Screen::Startplay2);
     closeFastestTimes();
     platform::screens::unload(screen());
-    play("wav\\click.wav");
+    play(tables::kClickWav);
 }
 
 void Board::newPuzzle() {
@@ -65,14 +66,14 @@ void Board::newPuzzle() {
     Label3(ShowSolution).show();
     game_.sendPiecesHome();
     startNewGame();
-    play("wav\\space.wav");
+    play(tables::kSpaceWav);
 }
 
 void Board::showSolution() {
     Label7->hide();
     game_.showsoln();
     Label3(NewPuzzle).show();
-    play("wav\\METAL2.wav");
+    play(tables::kMetal2Wav);
 }
 
 void Board::switchPanel() {
@@ -83,7 +84,7 @@ void Board::switchPanel() {
         [&](int, platform::PictureBox& thumbnail) { thumbnail.setVisible(showThumbnails); });
     Label1(1).setCaption(showThumbnails ? text::kSelectPicture : layout_.rulesText);
     iconson = (iconson + 1) % 2;
-    play("wav\\space.wav");
+    play(tables::kSpaceWav);
 }
 
 // A thumbnail starts a new puzzle in its set; the panel stays open so the
@@ -95,7 +96,7 @@ void Board::Image4_Click(int index) {
     Label7->hide();
     game_.sendPiecesHome();
     startNewGame();
-    play("wav\\space.wav");
+    play(tables::kSpaceWav);
 }
 
 void Board::startNewGame() {

@@ -1,6 +1,7 @@
 // Judging a full grid. Only the region sums count: a grid that repeats
 // pictures but adds up right in every tested region passes.
 #include "engine/game.h"
+#include "tables/sounds.h"
 #include "tables/texts.h"
 
 namespace engine {
@@ -63,10 +64,10 @@ void Game::checkanswer(const Options& opt) {
     // Only the congratulations begin with "C".
     const std::string verdict = view_.caption(Lab::Label7);
     if (verdict.empty() || verdict[0] != 'C') {
-        play(opt, "wav\\boink.wav");
+        play(opt, tables::kBoinkWav);
         return;
     }
-    play(opt, "wav\\fanf3.wav");
+    play(opt, tables::kFanf3Wav);
     view_.setVisible(Lab::Label3_4, false);
     view_.setVisible(Lab::Label3_2, true);
     view_.setTimerEnabled(Tmr::Timer1, false);

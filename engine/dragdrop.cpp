@@ -2,6 +2,7 @@
 // Positions are floats and a snap copies the target's own position, so
 // "lies on a cell" can be tested with exact equality.
 #include "engine/game.h"
+#include "tables/sounds.h"
 
 namespace engine {
 namespace {
@@ -60,13 +61,13 @@ void Game::pieceMouseUp(int k, const Options& opt) {
     for (int i = 0; i < cellcount(); ++i) {
         if (!withinHalfOf(k, Pic::Image1, i)) continue;
         moveOnto(Pic::Image2, k, Pic::Image1, i);
-        play(opt, "wav\\click1.wav");
+        play(opt, tables::kClick1Wav);
     }
     // Near any tray slot means home, and home is always the piece's own slot.
     for (int i = 0; i < cellcount(); ++i) {
         if (!withinHalfOf(k, Pic::Image3, i)) continue;
         moveOnto(Pic::Image2, k, Pic::Image3, k);
-        play(opt, "wav\\click1.wav");
+        play(opt, tables::kClick1Wav);
     }
     // Two pieces never share a cell: the newcomer bounces up and to the right.
     for (int i = 0; i < cellcount(); ++i) {

@@ -1,6 +1,7 @@
 // Commands that move every piece at once: show the solution, start the same
 // puzzle again, and clear the board for a new one.
 #include "engine/game.h"
+#include "tables/sounds.h"
 
 namespace engine {
 
@@ -36,7 +37,7 @@ void Game::startAgain(const Options& opt) {
         }
     }
     setPiecesVisible(true);
-    play(opt, "wav\\space.wav");
+    play(opt, tables::kSpaceWav);
 }
 
 void Game::sendPiecesHome() {

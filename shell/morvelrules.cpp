@@ -4,6 +4,7 @@
 #include "shell/looks.h"
 #include "shell/module1.h"
 #include "tables/pictures.h"
+#include "tables/sounds.h"
 #include "tables/texts.h"
 
 namespace shell {
@@ -80,7 +81,7 @@ void Morvelrules::showPage(int page) {
 
 void Morvelrules::Label3_Click() {
     platform::screens::unload(kScreen);
-    if (module1().playsound == 1) playwav("wav\\click.wav");
+    if (module1().playsound == 1) playwav(tables::kClickWav);
 }
 
 }  // namespace shell

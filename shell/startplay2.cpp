@@ -8,6 +8,7 @@
 #include "tables/colours.h"
 #include "tables/geometry.h"
 #include "tables/pictures.h"
+#include "tables/sounds.h"
 #include "tables/texts.h"
 
 namespace shell {
@@ -19,7 +20,7 @@ namespace text = tables::options_text;
 // Every check box clicks when the sound was on before the change, so ticking
 // "Play Sound" is silent and clearing it is heard.
 void clickIfSoundWasOn() {
-    if (module1().playsound == 1) playwav("wav\\click1.wav");
+    if (module1().playsound == 1) playwav(tables::kClick1Wav);
 }
 
 }  // namespace
@@ -144,12 +145,12 @@ void Startplay2::Label1_Click(int level) {
     for (int k = 0; k < 3; ++k)
         if (Option1(k).Value()) platform::screens::show(tables::boardScreen(k));
     platform::screens::unload(kScreen);
-    if (shared.playsound == 1) playwav("wav\\click.wav");
+    if (shared.playsound == 1) playwav(tables::kClickWav);
 }
 
 void Startplay2::Label6_Click() {
     platform::screens::show(tables::Screen::Morvelrules);
-    if (module1().playsound == 1) playwav("wav\\click.wav");
+    if (module1().playsound == 1) playwav(tables::kClickWav);
 }
 
 void Startplay2::Label3_Click() {

@@ -6,6 +6,7 @@
 #include "shell/looks.h"
 #include "shell/module1.h"
 #include "tables/pictures.h"
+#include "tables/sounds.h"
 #include "tables/texts.h"
 
 namespace shell {
@@ -68,7 +69,7 @@ void Titlefrm::leaveForOptions() {
     platform::screens::show(tables::Screen::Grey);
     platform::screens::show(tables::Screen::Startplay2);
     platform::screens::unload(kScreen);
-    if (shared.playsound == 1) playwav("wav\\click.wav");
+    if (shared.playsound == 1) playwav(tables::kClickWav);
 }
 
 }  // namespace shell
