@@ -135,7 +135,7 @@ TEST(Setup, GivenCountsRunFromTheForcedCellsToTheLevelsCutOff) {
                     if (patterns > 1) shuffle.push_back((p + 0.5) / patterns);
                     FakeBoard board(s.size, unshuffled(n) + s.moves + shuffle);
                     board.game.setsolution();
-                    board.game.setstart({level, 0, 0});
+                    board.game.setstart(options(level, 0, 0));
                     EXPECT_EQ(board.game.pattern, p);
                     EXPECT_EQ(board.game.coveredCells(), ontoPattern ? fewest : most)
                         << n << "x" << n << " pattern " << p << " level " << level;
