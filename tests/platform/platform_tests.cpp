@@ -230,16 +230,6 @@ class PlatformTests : public QObject {
         QVERIFY(!b.Value());
     }
 
-    void placeformCentresTheFullSizeScreen() {
-        Probe probe;
-        shell::placeform(probe);
-        // 1280 x 1024 pixels is 19200 x 15360 twips.
-        QCOMPARE(probe.Width(), 15360.0f);
-        QCOMPARE(probe.Height(), 11520.0f);
-        QCOMPARE(probe.Left(), 1920.0f);
-        QCOMPARE(probe.Top(), 1920.0f);
-    }
-
     // The overlay's border makes it as wide as the full-size screen; window
     // managers keep it above the full-size screen shown last, while shown.
     void overlayCoversItsScreenAndStaysAboveIt() {
