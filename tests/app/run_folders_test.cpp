@@ -19,9 +19,11 @@ void writeFile(const QString& path, const QByteArray& bytes = "x") {
     file.write(bytes);
 }
 
-// A folder holding the game's pictures and sounds, as the build draws them.
+// A folder holding the game's pictures and sounds, as the build draws them:
+// two of the files every copy has, and a sound.
 QString makeGameFolder(const QString& folder) {
     writeFile(folder + "/Images/pimbalo.jpg");
+    writeFile(folder + "/Images/H_POINT.cur");
     writeFile(folder + "/wav/click.wav");
     return QDir(folder).canonicalPath();
 }
@@ -104,7 +106,7 @@ class RunFoldersTests : public QObject {
         QVERIFY(platform::findGameFile("Images\\pimbalo.jpg"));
         QVERIFY(!QFile("lastgame.inf").open(QIODevice::WriteOnly));
         QVERIFY(!QFile("highscore.inf").open(QIODevice::ReadOnly));
-        QCOMPARE(filesBelow(root_.path()).size(), 3);  // the two game files and the blocker
+        QCOMPARE(filesBelow(root_.path()).size(), 4);  // the three game files and the blocker
     }
 
     // A copy that lacks its title picture is still found, installed or not

@@ -51,19 +51,6 @@ TEST(CursorFile, StoresRowsBottomUpWithAMaskOfTheClearPixels) {
     EXPECT_EQ(quint8(file[mask + 31 * 4 + 3]), 0xFF);
 }
 
-TEST(CursorFile, TheGamesHandDecodesWithQt) {
-    const QByteArray file = curFile(handPointer(), kHandHotSpot);
-    QImage decoded;
-    ASSERT_TRUE(decoded.loadFromData(file, "cur"));
-    const QImage original = handPointer();
-    ASSERT_EQ(decoded.size(), original.size());
-    int mismatches = 0;
-    for (int y = 0; y < 32; ++y)
-        for (int x = 0; x < 32; ++x)
-            mismatches += qAlpha(decoded.pixel(x, y)) / 64 != qAlpha(original.pixel(x, y)) / 64;
-    EXPECT_EQ(mismatches, 0);
-}
-
 TEST(WavFile, HeaderAndSamplesAreLittleEndianPcm) {
     const auto wav = wavFile({0.0, 0.5, -0.5, 1.0, -1.0, 2.0});
     ASSERT_EQ(wav.size(), 44u + 12u);

@@ -171,19 +171,7 @@ TEST(Flags, AustraliaHasTheCommonwealthStarAndTheSouthernCross) {
     EXPECT_TRUE(near(at(image, flag, 0.25, 0.25), kUnionRed)) << "union flag in the canton";
 }
 
-TEST(Flags, TricoloursAndTheSouthAfricanPallHaveTheirColoursInPlace) {
-    const QImage germany = render(Flag::Germany);
-    const QRectF g = flagRect(germany, 0.5, 0.5);
-    EXPECT_TRUE(near(at(germany, g, 0.5, 1.0 / 6), QColor(0, 0, 0)));
-    EXPECT_TRUE(near(at(germany, g, 0.5, 0.5), QColor(221, 0, 0)));
-    EXPECT_TRUE(near(at(germany, g, 0.5, 5.0 / 6), QColor(255, 206, 0)));
-
-    const QImage france = render(Flag::France);
-    const QRectF f = flagRect(france, 0.5, 0.2);
-    EXPECT_TRUE(near(at(france, f, 1.0 / 6, 0.5), QColor(0, 85, 164)));
-    EXPECT_TRUE(near(at(france, f, 0.5, 0.5), kWhite));
-    EXPECT_TRUE(near(at(france, f, 5.0 / 6, 0.5), QColor(239, 65, 53)));
-
+TEST(Flags, TheSouthAfricanPallHasItsColoursInPlace) {
     const QImage sa = render(Flag::SouthAfrica);
     const QRectF s = flagRect(sa, 0.5, 0.8);
     EXPECT_TRUE(near(at(sa, s, 0.04, 0.5), QColor(0, 0, 0))) << "black triangle at the hoist";

@@ -91,13 +91,6 @@ TEST(GeneratedPictures, TheImagesFolderHoldsOnlyWhatTheTablesName) {
         EXPECT_TRUE(named.count(file)) << qPrintable(file) << " is named by no table";
 }
 
-TEST(GeneratedPictures, FoldersHaveTheLetterCaseTheGameWrites) {
-    const QStringList top = gameFolder().entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    EXPECT_TRUE(top.contains("Images"));
-    EXPECT_TRUE(top.contains("wav"));
-    EXPECT_FALSE(top.contains("images")) << "one folder serves both spellings";
-}
-
 // At the size of a piece, every two pictures of a set differ plainly: in their
 // colours (the dice, the numbers, the solids), or else in where the colours
 // lie (the flags of red, white and blue). Two many-coloured solids in one
@@ -121,18 +114,6 @@ TEST(GeneratedPictures, PicturesOfEverySetAreToldApartAtPieceSize) {
             }
         }
     }
-}
-
-TEST(GeneratedPictures, ThumbnailsDifferFromEachOther) {
-    std::set<QString> files;
-    for (int board = 0; board < tables::kBoardSizes; ++board)
-        for (const tables::PictureSet& set : tables::catalogue(board))
-            files.insert(findGamePicture(set.thumbnailPath()));
-    const std::vector<QString> thumbs(files.begin(), files.end());
-    for (size_t i = 0; i < thumbs.size(); ++i)
-        for (size_t j = i + 1; j < thumbs.size(); ++j)
-            EXPECT_GT(meanDifference(QImage(thumbs[i]), QImage(thumbs[j])), kClearlyDifferent)
-                << qPrintable(thumbs[i]) << " vs " << qPrintable(thumbs[j]);
 }
 
 // Colours are written &H00BBGGRR& on the boards: a swapped byte order would

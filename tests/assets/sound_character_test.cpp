@@ -34,14 +34,6 @@ double crossingRate(const std::vector<double>& s, double from, double to) {
 
 }  // namespace
 
-TEST(SoundCharacter, TheSixSoundsAreAllThere) {
-    const auto all = sounds();
-    for (const char* name :
-         {"click.wav", "click1.wav", "space.wav", "METAL2.wav", "boink.wav", "fanf3.wav"})
-        EXPECT_EQ(all.count(name), 1u) << name;
-    EXPECT_EQ(all.size(), 6u);
-}
-
 TEST(SoundCharacter, TheTwoClicksAreShortAndDifferent) {
     const auto all = sounds();
     const auto& a = all.at("click.wav");

@@ -1,6 +1,6 @@
 # Sourced by play_game.sh: the same game, played on a real desktop.
 #
-#   E2E_WM=openbox (or xfwm4)  a window manager runs in the virtual X server.
+#   E2E_WM=openbox  a window manager runs in the virtual X server.
 #       The framed screens must be centred by their outer size (within 1
 #       pixel), the full-size screens and the fastest-times screen must keep
 #       their exact places, windows must keep their order whatever is clicked,
@@ -10,8 +10,7 @@
 #   E2E_SOUND=pulse  a PulseAudio server with a null sink plays the game's
 #       sounds; its output is recorded, and the drop, the wrong-grid verdict
 #       and the fanfare must each be heard within half a second of the moment
-#       the game plays them. With E2E_WM too, a second game with "Play Sound"
-#       off must be silent.
+#       the game plays them.
 #
 # With neither set, every desktop_* function does nothing. The functions use
 # play_game.sh's globals and helpers (work, out, game_pid, state, shot...).
@@ -21,9 +20,6 @@ desktop_sound=${E2E_SOUND:-}
 desktop_pulse_pid=""
 desktop_parec_pid=""
 desktop_record_start=""  # milliseconds since the epoch of the recording's first sample
-desktop_quiet_from=""    # the quiet game, in milliseconds since the epoch
-desktop_quiet_to=""
-desktop_main_work=""     # play_game.sh's folder while a second game runs
 
 desktop_log() {
     echo "[${SECONDS}s] $*"
@@ -50,10 +46,6 @@ desktop_stop() {
         wait "$desktop_pulse_pid" 2>/dev/null || true
     fi
     desktop_pulse_pid=""
-    if [[ -n $desktop_main_work ]]; then
-        rm -rf "$desktop_main_work"
-        desktop_main_work=""
-    fi
 }
 
 now_ms() {
@@ -77,9 +69,6 @@ desktop_start() {
         for try in 1 2 3; do
             case $desktop_wm in
                 openbox) openbox --sm-disable >>"$out/wm.log" 2>&1 & ;;
-                # Its settings come over D-Bus, so it gets a session bus of its own.
-                xfwm4) dbus-run-session -- xfwm4 --compositor=off --sm-client-disable \
-                    >>"$out/wm.log" 2>&1 & ;;
                 *) fail "unknown window manager $desktop_wm" ;;
             esac
             for _ in $(seq 100); do
@@ -371,53 +360,9 @@ expect_heard() {  # label milliseconds-since-the-epoch
     awk -v d="$db" 'BEGIN { exit !(d != "-inf" && d + 0 > -30) }' || fail "$1 was not heard"
 }
 
-# A second game in a folder of its own, with "Play Sound" off: nothing may be
-# heard from title to options. Its board and options screen are closed through
-# the window manager; the board's close saves, as its "Exit" does.
-desktop_quiet_game() {
-    desktop_log desktop_quiet_game
-    desktop_main_work=$work
-    work=$desktop_main_work/quiet
-    mkdir "$work"
-    ln -s "$game_dir/Images" "$work/Images"
-    ln -s "$game_dir/wav" "$work/wav"
-    printf '0\r\n1\r\n1\r\n0\r\n' >"$work/lastgame.inf"  # sound off, clock on, 4x4
-    highscore_text >"$work/highscore.inf"
-    desktop_quiet_from=$(now_ms)
-    start_game_again QT_QPA_PLATFORM=xcb
-    title=$(wait_screen Titlefrm)
-    click_control "$title" 1560 7080 1575 600  # "OK"
-    options=$(wait_screen Startplay2)
-    click_control "$options" 1440 6360 975 855  # level "1"
-    board=$(wait_screen jigsaw)
-    local -a moves
-    mapfile -t moves < <(state | awk '$1 == "move" { print $2, $3, $4, $5 }' | head -n 1)
-    local move
-    for move in "${moves[@]}"; do
-        # shellcheck disable=SC2086
-        drag $move
-    done
-    click_control "$board" 1125 10680 3345 555  # "Start again"
-    close_by_wm jigsaw alt-f4
-    options=$(wait_screen Startplay2)
-    wait_gone jigsaw
-    expect_running "closing a board"
-    sleep 1  # a close right after another is taken for the same key held down
-    close_by_wm Startplay2 alt-f4
-    expect_game_ends "closing the options screen"
-    sleep 0.5  # anything still playing reaches the recording
-    desktop_quiet_to=$(now_ms)
-    printf '0\r\n1\r\n1\r\n0\r\n' | cmp - "$work/lastgame.inf" ||
-        fail "closing the board did not save the options as its Exit does"
-    [[ ! -s $work/e2e_sounds.txt ]] || fail "sounds played with Play Sound off: $(cat "$work/e2e_sounds.txt")"
-    rm -rf "$work"
-    work=$desktop_main_work
-    desktop_main_work=""
-}
-
 # After the main game ended through its title screen's "Exit": a start as on
-# a Wayland desktop closed at once through the window manager, the quiet
-# game, then the sound checks of the main game.
+# a Wayland desktop closed at once through the window manager, then the
+# sound checks of the main game.
 desktop_finish() {
     desktop_log desktop_finish
     if [[ -n $desktop_wm ]]; then
@@ -429,7 +374,6 @@ desktop_finish() {
         expect_game_ends "closing the title screen"
     fi
     [[ -n $desktop_sound ]] || return 0
-    [[ -n $desktop_wm ]] && desktop_quiet_game
     stop_recording
     local log=$work/e2e_sounds.txt
     cp "$log" "$out/sounds.txt"
@@ -437,12 +381,4 @@ desktop_finish() {
     expect_heard drop "$(awk '/boink/ { print last; exit } /click1/ { last = $2 }' "$log")"
     expect_heard "wrong verdict" "$(awk '/boink/ { print $2; exit }' "$log")"
     expect_heard fanfare "$(awk '/fanf3/ { print $2; exit }' "$log")"
-    if [[ -n $desktop_quiet_from ]]; then
-        local db
-        db=$(peak_db "$desktop_quiet_from" \
-            "$(awk -v f="$desktop_quiet_from" -v t="$desktop_quiet_to" 'BEGIN { print (t - f) / 1000 }')")
-        echo "sound with Play Sound off: peak $db dBFS over a whole game"
-        awk -v d="$db" 'BEGIN { exit !(d == "-inf" || d + 0 < -60) }' ||
-            fail "sound heard with Play Sound off"
-    fi
 }

@@ -18,12 +18,7 @@ out=$3
 
 # A real desktop (window manager, audio server) when asked for.
 source "$(dirname "$0")/desktop.sh"
-for tool in Xvfb xdotool import cmp; do
-    if ! command -v "$tool" >/dev/null; then
-        echo "SKIP: $tool is not installed"
-        exit 77
-    fi
-done
+desktop_need Xvfb xdotool import cmp
 
 mkdir -p "$out"
 rm -f "$out"/*.png "$out"/*.inf "$out"/game.log

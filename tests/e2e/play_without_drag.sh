@@ -1,6 +1,6 @@
 # Sourced by play_game.sh when E2E_PLAY is "click" or "keys": plays the board
-# without a single drag, with the state hook's "move", "place", "layout",
-# "ring" and "picked" lines. Uses play_game.sh's state, fail and shot.
+# without a single drag, with the state hook's "move", "place", "layout"
+# and "picked" lines. Uses play_game.sh's state, fail and shot.
 
 # Waits until the hook reports `picked <piece>` (-1: nothing picked).
 wait_picked() {

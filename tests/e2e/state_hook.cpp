@@ -14,7 +14,6 @@
 //
 //   layout <n> <tray columns>     the board's size and how wide its tray is
 //   place <piece> <cell>          a piece (its tray slot) and the cell it solves
-//   ring <zone> <index> <shown>   where the keyboard's ring stands (0 tray, 1 grid, 2 commands)
 //   picked <piece>                the picked piece, -1 for none
 //
 // Every sound the game plays is appended to "e2e_sounds.txt" as
@@ -40,38 +39,23 @@ QPoint centreOf(const QWidget& control) {
     return control.mapToGlobal(control.rect().center());
 }
 
-// Every piece that is not given, from where it lies to the cell it solves.
-void writeMoves(std::ostream& out, board::Board& board) {
-    const engine::Game& game = board.game();
-    const int n = game.n();
-    for (int y = 0; y < n; ++y) {
-        for (int x = 0; x < n; ++x) {
-            if (game.given[x][y] == 1) continue;
-            // Copy y of the solution's picture belongs in row y.
-            const int piece = (game.solution[x][y] - 1) * n + y;
-            const QPoint from = centreOf(board.Image2(piece));
-            const QPoint to = centreOf(board.Image1(x + n * y));
-            out << "move " << from.x() << ' ' << from.y() << ' ' << to.x() << ' ' << to.y() << ' '
-                << game.solution[x][y] << '\n';
-        }
-    }
-}
-
-// The same solution as indices, for the keyboard, and what the player has
-// picked and where the ring stands.
-void writeHandPlay(std::ostream& out, board::Board& board) {
+// Every piece that is not given, from where it lies to the cell it solves, as
+// window positions and as indices; and what the player has picked.
+void writeBoard(std::ostream& out, board::Board& board) {
     const engine::Game& game = board.game();
     const int n = game.n();
     out << "layout " << n << ' ' << board.layout().trayColumns << '\n';
     for (int y = 0; y < n; ++y) {
         for (int x = 0; x < n; ++x) {
             if (game.given[x][y] == 1) continue;
-            out << "place " << (game.solution[x][y] - 1) * n + y << ' ' << x + n * y << '\n';
+            // Copy y of the solution's picture belongs in row y.
+            const int piece = (game.solution[x][y] - 1) * n + y, cell = x + n * y;
+            const QPoint from = centreOf(board.Image2(piece)), to = centreOf(board.Image1(cell));
+            out << "move " << from.x() << ' ' << from.y() << ' ' << to.x() << ' ' << to.y() << ' '
+                << game.solution[x][y] << '\n';
+            out << "place " << piece << ' ' << cell << '\n';
         }
     }
-    const engine::FocusRing& ring = board.ring();
-    const int index = ring.zone() == engine::Zone::Grid ? ring.cell() : ring.slot();
-    out << "ring " << static_cast<int>(ring.zone()) << ' ' << index << ' ' << ring.shown() << '\n';
     out << "picked " << board.picking().picked() << '\n';
 }
 
@@ -83,8 +67,7 @@ std::string describeScreens() {
         const QPoint origin = form->client()->mapToGlobal(QPoint(0, 0));
         out << "screen " << name << ' ' << origin.x() << ' ' << origin.y() << '\n';
         out << "window " << name << ' ' << form->winId() << '\n';
-        if (auto* board = dynamic_cast<board::Board*>(form)) writeMoves(out, *board);
-        if (auto* board = dynamic_cast<board::Board*>(form)) writeHandPlay(out, *board);
+        if (auto* board = dynamic_cast<board::Board*>(form)) writeBoard(out, *board);
     }
     if (auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
         box && box->isVisible()) {

@@ -104,7 +104,7 @@ TEST(Check, ClockWrapsAfter9999AndACorrectGridStopsItAndRanksTheTime) {
 // file) keeps the game silent and the clock off. Only the banner differs: it
 // tells a time for anything but 0, though no time is ranked.
 TEST(Options, OnlyOneSwitchesAnOptionOn) {
-    const Options two{0, 2, 2};
+    const Options two = options(0, 2, 2);
     FakeBoard board(0);
     board.game.setsolution();
     board.game.seconds = 7;

@@ -9,8 +9,6 @@
 //   screen <name> <x> <y>         client-area origin of a shown screen
 //   move <fx> <fy> <tx> <ty>      piece centre to the centre of a cell it solves
 //   textbox <x> <y>               centre of the text box holding the focus
-//   button <0|1> <caption>        a check box or option button of a shown screen
-#include <QAbstractButton>
 #include <QApplication>
 #include <QFile>
 #include <QLineEdit>
@@ -116,9 +114,6 @@ std::string describeScreens() {
         out << "screen " << name << ' ' << origin.x() << ' ' << origin.y() << '\n';
         if (const int boardsize = tables::boardsizeOf(screen); boardsize >= 0)
             writeMoves(out, *form, boardsize + 4);
-        for (const QAbstractButton* b : form->findChildren<QAbstractButton*>())
-            if (b->isCheckable() && b->isVisible())
-                out << "button " << b->isChecked() << ' ' << b->text().toStdString() << '\n';
     }
     if (auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
         box && box->isVisible()) {

@@ -16,6 +16,7 @@
 #include "platform/timer.h"
 #include "platform/wav_file.h"
 #include "shell/common.h"
+#include "tone_wav.h"
 
 using namespace platform;
 
@@ -45,62 +46,6 @@ void writeFile(const QString& path, const QByteArray& bytes) {
     f.write(bytes);
 }
 
-// A one-image cursor file: directory, entry with the hot spot, 32-bit BMP.
-QByteArray cursorFile(int size, int hotX, int hotY) {
-    QByteArray bmp;
-    auto put16 = [](QByteArray& b, int v) {
-        b.append(char(v & 0xFF)).append(char((v >> 8) & 0xFF));
-    };
-    auto put32 = [&](QByteArray& b, int v) {
-        put16(b, v & 0xFFFF);
-        put16(b, (v >> 16) & 0xFFFF);
-    };
-    put32(bmp, 40);
-    put32(bmp, size);
-    put32(bmp, size * 2);
-    put16(bmp, 1);
-    put16(bmp, 32);
-    put32(bmp, 0);
-    put32(bmp, 0);
-    put32(bmp, 0);
-    put32(bmp, 0);
-    put32(bmp, 0);
-    put32(bmp, 0);
-    for (int i = 0; i < size * size; ++i) bmp.append("\x00\x00\xff\xff", 4);  // red, opaque
-    bmp.append(QByteArray(size * 4 * size / 32, '\0'));                       // AND mask
-    QByteArray file;
-    put16(file, 0);
-    put16(file, 2);
-    put16(file, 1);
-    file.append(char(size)).append(char(size)).append('\0').append('\0');
-    put16(file, hotX);
-    put16(file, hotY);
-    put32(file, bmp.size());
-    put32(file, 22);
-    return file + bmp;
-}
-
-// A mono 16-bit WAV file of `samples` silent samples at 22050 Hz.
-QByteArray wavFile(int samples) {
-    QByteArray file;
-    auto put = [&](quint32 v, int bytes) {
-        for (int i = 0; i < bytes; ++i) file.append(char((v >> (8 * i)) & 0xFF));
-    };
-    file.append("RIFF");
-    put(36 + 2 * samples, 4);
-    file.append("WAVEfmt ");
-    put(16, 4);
-    put(1, 2);  // PCM
-    put(1, 2);  // mono
-    put(22050, 4);
-    put(44100, 4);
-    put(2, 2);
-    put(16, 2);
-    file.append("data");
-    put(2 * samples, 4);
-    return file + QByteArray(2 * samples, '\0');
-}
-
 }  // namespace
 
 class PlatformTests : public QObject {
@@ -118,16 +63,15 @@ class PlatformTests : public QObject {
         img.fill(Qt::green);
         QVERIFY(img.save("Images/Dice/One.jpg", "JPG"));
         writeFile("Images/broken.jpg", "not a picture");
-        writeFile("Images/H_POINT.cur", cursorFile(32, 9, 2));
+        QVERIFY(QFile::copy(PIMBALO_GAME_DIR "/Images/H_POINT.cur", "Images/H_POINT.cur"));
         setFatalHandler([](const QString& m) { throw FatalError(m.toStdString()); });
         screens::registerScreen(kProbe, [] { return new Probe; });
     }
     void cleanupTestCase() { QDir::setCurrent(oldCwd); }
 
-    // Timers first: a fatal error (the picture tests below) stops them for
-    // the rest of the run, as it does in the game.
     // Switching on a timer that runs already keeps its next tick where it
-    // was; only a timer switched off starts its interval afresh.
+    // was; only a timer switched off starts its interval afresh. First: after
+    // the fatal errors below no timer starts.
     void reenablingARunningTimerKeepsItsNextTick() {
         QObject owner;
         Timer timer(&owner, 1000);
@@ -197,8 +141,14 @@ class PlatformTests : public QObject {
     }
 
     void cursorKeepsItsHotSpot() {
+        QFile file("Images/H_POINT.cur");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray head = file.read(14);  // the first entry's hot spot: bytes 10 to 13
+        const QPoint hotSpot(qFromLittleEndian<quint16>(head.data() + 10),
+                             qFromLittleEndian<quint16>(head.data() + 12));
+        QVERIFY(hotSpot != QPoint(0, 0));
         const QCursor c = loadCursor("images\\h_point.cur");
-        QCOMPARE(c.hotSpot(), QPoint(9, 2));
+        QCOMPARE(c.hotSpot(), hotSpot);
         QCOMPARE(c.pixmap().size(), QSize(32, 32));
     }
 
@@ -278,16 +228,6 @@ class PlatformTests : public QObject {
         QCOMPARE(selectedA, 2);
         QCOMPARE(selectedB, 1);
         QVERIFY(!b.Value());
-    }
-
-    void placeformCentresTheFullSizeScreen() {
-        Probe probe;
-        shell::placeform(probe);
-        // 1280 x 1024 pixels is 19200 x 15360 twips.
-        QCOMPARE(probe.Width(), 15360.0f);
-        QCOMPARE(probe.Height(), 11520.0f);
-        QCOMPARE(probe.Left(), 1920.0f);
-        QCOMPARE(probe.Top(), 1920.0f);
     }
 
     // The overlay's border makes it as wide as the full-size screen; window
@@ -403,7 +343,7 @@ class PlatformTests : public QObject {
     // have the quarter second of silence after the sound take terabytes: the
     // file is silent instead, as a missing one is. (It holds one such frame.)
     void absurdWavHeadersAreSilent() {
-        QByteArray file = wavFile(140000);
+        QByteArray file = toneWav(6.4);
         qToLittleEndian<quint16>(65535, file.data() + 22);       // channels
         qToLittleEndian<quint32>(0x7FFFFFFF, file.data() + 24);  // samples a second
         qToLittleEndian<quint16>(32, file.data() + 34);          // bits
@@ -419,7 +359,7 @@ class PlatformTests : public QObject {
     void missingSoundsAreSilentButSeen() {
         setSoundModule(QStringLiteral(PIMBALO_SOUND_MODULE_FILE));
         QDir().mkpath("wav");
-        writeFile("wav/Beep.wav", wavFile(2205));
+        writeFile("wav/Beep.wav", toneWav(0.1));
         QStringList asked;
         setSoundObserver([&](const std::string& p) { asked << QString::fromStdString(p); });
         playSound("wav\\BEEP.wav");

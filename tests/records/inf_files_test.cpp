@@ -141,15 +141,6 @@ TEST_F(InfFiles, FailedSaveLeavesTheOldFilesWhole) {
     // A file stands where the folder should be: lastgame.inf was written.
     EXPECT_FALSE(records::saveBoth(lastgame_, path("highscore.inf/x.inf"), {}, empty));
     EXPECT_EQ(read(lastgame_), "0\r\n0\r\n0\r\n0\r\n");
-    // The temporary file cannot replace a folder, and is not left behind.
-    fs::create_directories(path("folder.inf/in-use"));
-    EXPECT_FALSE(records::saveHighscores(path("folder.inf"), empty));
-    EXPECT_FALSE(fs::exists(path("folder.inf.tmp")));
-
-    // A temporary file left by an interrupted save does not get in the way.
-    write(path("highscore.inf.tmp"), "half");
-    EXPECT_TRUE(records::saveHighscores(highscore_, empty));
-    EXPECT_EQ(read(highscore_), fileOf(90, {}));
 }
 
 // Runs `step` in a child process that may take at most a few seconds and, in

@@ -104,13 +104,6 @@ class TitleAndOptionsTests : public ScreenTest {
         }
     }
 
-    void exitEndsTheProgram() {
-        platform::screens::show(Titlefrm::kScreen);
-        click(*screen<Titlefrm>().Label7);
-        QVERIFY(ended);
-        QVERIFY(!isLoaded(Titlefrm::kScreen));
-    }
-
     // The desktop's close button: the title and options screens end the game
     // (the options screen's way out ends at the title screen's "Exit"); the
     // backdrop is not the player's to close, and nothing ends with it.
