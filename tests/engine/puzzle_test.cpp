@@ -166,9 +166,10 @@ TEST(Setup, ThousandsOfRandomGamesAreSoundPuzzles) {
                 if (n < 6 && x == n - 1 - y) regions[21].insert(s);
                 if (n == 4) regions[30 + y / 2 * 2 + x / 2].insert(s);
                 if (n == 6) regions[40 + y / 2 * 2 + x / 3].insert(s);
-                if (n == 6 && board.game.given[x][y] == 1)  // the marker of its rectangle
+                if (n == 6 && board.game.given[x][y] == 1) {  // the marker of its rectangle
                     ASSERT_EQ(board.box(Pic::Image5, k).picture,
                               tables::boardGeometry(2).markerPictures[y / 2 * 2 + x / 3]);
+                }
             }
             for (const auto& [region, pictures] : regions)
                 ASSERT_EQ(pictures.size(), std::size_t(n)) << i << ": " << region;
