@@ -36,7 +36,7 @@ struct LabelDesign {
 };
 
 struct BoardLayout : tables::BoardGeometry {
-    int boardsize;  // 0 = 4x4, 1 = 5x5, 2 = 6x6
+    int boardsize;    // 0 = 4x4, 1 = 5x5, 2 = 6x6
     int pictureSets;  // 8 or 6: the random start draws below this
     const char* rulesText;
     std::vector<LabelDesign> labels;  // every label of the screen, designed state
