@@ -164,8 +164,15 @@ close_by_wm() {  # name how(alt-f4|wmctrl)
     id=$(window_id "$1")
     [[ -n $id ]] || fail "$1 has no window to close"
     if [[ $2 == alt-f4 ]]; then
-        wmctrl -i -a "$id"
-        sleep 0.3
+        # The key goes to the active window: wait until the window manager
+        # has really activated this one (a busy machine can take a while).
+        local tries
+        for tries in $(seq 30); do
+            wmctrl -i -a "$id"
+            sleep 0.1
+            (($(xdotool getactivewindow 2>/dev/null || echo 0) == id)) && break
+        done
+        sleep 0.2
         xdotool key --clearmodifiers alt+F4
     else
         wmctrl -i -c "$id"
