@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "tables/geometry.h"
+#include "tables/translatable.h"
 
 namespace tables {
 namespace {
@@ -91,27 +92,51 @@ constexpr List<PictureSet> kCatalogues[kBoardSizes] = {k4x4, k5x5, k6x6};
 
 // Each kind's names, picture by picture; kNames lists the kinds in the
 // order SetKind declares them.
-constexpr const char* kPolyhedronNames[] = {"great stellated dodecahedron",
-                                            "great icosahedron",
-                                            "small stellated dodecahedron",
-                                            "ten tetrahedra",
-                                            "five tetrahedra",
-                                            "great dodecahedron"};
-constexpr const char* kCardNames[] = {"clubs", "spades", "diamonds", "hearts"};
-constexpr const char* kDieNames[] = {"die showing one",  "die showing two",  "die showing three",
-                                     "die showing four", "die showing five", "die showing six"};
-constexpr const char* kFaceNames[] = {"tovi", "jebu", "moustache", "kramble", "wuzzet"};
-constexpr const char* kFlagNames[] = {"flag of the United Kingdom", "flag of the United States",
-                                      "flag of South Africa",       "flag of Germany",
-                                      "flag of Australia",          "flag of France"};
-constexpr const char* kPatternNames[] = {"dots", "stripes", "tiles", "triangles", "link"};
-constexpr const char* kShapeNames[] = {"polygon", "triangle",  "star",
-                                       "square",  "rectangle", "doughnut"};
-constexpr const char* kVehicleNames[] = {"ambulance", "fire engine", "police car", "boat"};
-constexpr const char* kNumberNames[] = {"number one",  "number two",  "number three",
-                                        "number four", "number five", "number six"};
-constexpr const char* kLetterNames[] = {"letter A", "letter B", "letter C",
-                                        "letter D", "letter E", "letter F"};
+constexpr const char* kPolyhedronNames[] = {
+    QT_TRANSLATE_NOOP("Pictures", "great stellated dodecahedron"),
+    QT_TRANSLATE_NOOP("Pictures", "great icosahedron"),
+    QT_TRANSLATE_NOOP("Pictures", "small stellated dodecahedron"),
+    QT_TRANSLATE_NOOP("Pictures", "ten tetrahedra"),
+    QT_TRANSLATE_NOOP("Pictures", "five tetrahedra"),
+    QT_TRANSLATE_NOOP("Pictures", "great dodecahedron")};
+constexpr const char* kCardNames[] = {
+    QT_TRANSLATE_NOOP("Pictures", "clubs"), QT_TRANSLATE_NOOP("Pictures", "spades"),
+    QT_TRANSLATE_NOOP("Pictures", "diamonds"), QT_TRANSLATE_NOOP("Pictures", "hearts")};
+constexpr const char* kDieNames[] = {QT_TRANSLATE_NOOP("Pictures", "die showing one"),
+                                     QT_TRANSLATE_NOOP("Pictures", "die showing two"),
+                                     QT_TRANSLATE_NOOP("Pictures", "die showing three"),
+                                     QT_TRANSLATE_NOOP("Pictures", "die showing four"),
+                                     QT_TRANSLATE_NOOP("Pictures", "die showing five"),
+                                     QT_TRANSLATE_NOOP("Pictures", "die showing six")};
+constexpr const char* kFaceNames[] = {
+    QT_TRANSLATE_NOOP("Pictures", "tovi"), QT_TRANSLATE_NOOP("Pictures", "jebu"),
+    QT_TRANSLATE_NOOP("Pictures", "moustache"), QT_TRANSLATE_NOOP("Pictures", "kramble"),
+    QT_TRANSLATE_NOOP("Pictures", "wuzzet")};
+constexpr const char* kFlagNames[] = {QT_TRANSLATE_NOOP("Pictures", "flag of the United Kingdom"),
+                                      QT_TRANSLATE_NOOP("Pictures", "flag of the United States"),
+                                      QT_TRANSLATE_NOOP("Pictures", "flag of South Africa"),
+                                      QT_TRANSLATE_NOOP("Pictures", "flag of Germany"),
+                                      QT_TRANSLATE_NOOP("Pictures", "flag of Australia"),
+                                      QT_TRANSLATE_NOOP("Pictures", "flag of France")};
+constexpr const char* kPatternNames[] = {
+    QT_TRANSLATE_NOOP("Pictures", "dots"), QT_TRANSLATE_NOOP("Pictures", "stripes"),
+    QT_TRANSLATE_NOOP("Pictures", "tiles"), QT_TRANSLATE_NOOP("Pictures", "triangles"),
+    QT_TRANSLATE_NOOP("Pictures", "link")};
+constexpr const char* kShapeNames[] = {
+    QT_TRANSLATE_NOOP("Pictures", "polygon"),   QT_TRANSLATE_NOOP("Pictures", "triangle"),
+    QT_TRANSLATE_NOOP("Pictures", "star"),      QT_TRANSLATE_NOOP("Pictures", "square"),
+    QT_TRANSLATE_NOOP("Pictures", "rectangle"), QT_TRANSLATE_NOOP("Pictures", "doughnut")};
+constexpr const char* kVehicleNames[] = {
+    QT_TRANSLATE_NOOP("Pictures", "ambulance"), QT_TRANSLATE_NOOP("Pictures", "fire engine"),
+    QT_TRANSLATE_NOOP("Pictures", "police car"), QT_TRANSLATE_NOOP("Pictures", "boat")};
+constexpr const char* kNumberNames[] = {
+    QT_TRANSLATE_NOOP("Pictures", "number one"),   QT_TRANSLATE_NOOP("Pictures", "number two"),
+    QT_TRANSLATE_NOOP("Pictures", "number three"), QT_TRANSLATE_NOOP("Pictures", "number four"),
+    QT_TRANSLATE_NOOP("Pictures", "number five"),  QT_TRANSLATE_NOOP("Pictures", "number six")};
+constexpr const char* kLetterNames[] = {
+    QT_TRANSLATE_NOOP("Pictures", "letter A"), QT_TRANSLATE_NOOP("Pictures", "letter B"),
+    QT_TRANSLATE_NOOP("Pictures", "letter C"), QT_TRANSLATE_NOOP("Pictures", "letter D"),
+    QT_TRANSLATE_NOOP("Pictures", "letter E"), QT_TRANSLATE_NOOP("Pictures", "letter F")};
 
 constexpr List<const char*> kNames[] = {
     kPolyhedronNames, kCardNames,  kDieNames,     kFaceNames,   kFlagNames,
