@@ -17,7 +17,7 @@ constexpr int kHighscoreFields = 2 * kSizes * kLevels * kRanks;
 struct FastestTimes {
     // Indexed [boardsize][level][rank]. A time of 0 marks an empty entry.
     std::int16_t besttime[kSizes][kLevels][kRanks] = {};
-    // Names in UTF-8; the file keeps them in Latin-1.
+    // Names in UTF-8, as the file keeps them.
     std::string bestname[kSizes][kLevels][kRanks];
 
     // How many fields of highscore.inf (in file order, 0..90) the latest load

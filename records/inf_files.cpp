@@ -15,7 +15,7 @@
 #include <optional>
 #include <string_view>
 
-#include "records/latin1.h"
+#include "records/utf8.h"
 
 namespace records {
 
@@ -40,7 +40,7 @@ class Lines {
 };
 
 // More than any file the game writes (highscore.inf with every name at its
-// longest is under 50 KB), little enough that whatever stands in a file's
+// longest, four bytes a character, is under 200 KB), little enough that whatever stands in a file's
 // place cannot fill the memory.
 constexpr off_t kLargestFile = 1 << 20;
 
@@ -207,6 +207,14 @@ bool replaceFile(const std::string& path, const std::string& bytes) {
     return true;
 }
 
+// A name line as the tables keep it: UTF-8, or Latin-1 from an older copy of
+// the game, line by line; at most kLongestKeptName characters. A Latin-1 byte
+// is one character, so that line is cut before it is converted.
+std::string nameFromLine(std::string_view line) {
+    if (isUtf8(line)) return std::string(firstCharacters(line, kLongestKeptName));
+    return latin1ToUtf8(line.substr(0, kLongestKeptName));
+}
+
 void appendLine(std::string& out, std::string_view line) {
     out.append(line);
     out.append("\r\n");
@@ -244,8 +252,7 @@ bool loadHighscoresText(std::string_view text, FastestTimes& tables) {
         if (!lines.next(line)) return false;
         const Field at = highscoreField(f);
         if (at.isName) {
-            tables.bestname[at.size][at.level][at.rank] =
-                latin1ToUtf8(std::string_view(line).substr(0, kLongestKeptName));
+            tables.bestname[at.size][at.level][at.rank] = nameFromLine(line);
         } else {
             tables.besttime[at.size][at.level][at.rank] = timeFromText(line);
         }
@@ -283,7 +290,8 @@ std::string highscoreText(const FastestTimes& tables) {
     for (int f = 0; f < kHighscoreFields; ++f) {
         const Field at = highscoreField(f);
         if (at.isName) {
-            std::string name = utf8ToLatin1(tables.bestname[at.size][at.level][at.rank]);
+            // Bytes that are not UTF-8 are written as the reading would take them.
+            std::string name = utf8OrLatin1(tables.bestname[at.size][at.level][at.rank]);
             std::replace_if(
                 name.begin(), name.end(), [](char c) { return c == '\r' || c == '\n'; }, '?');
             appendLine(out, name);

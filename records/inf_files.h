@@ -2,7 +2,8 @@
 // The game's two small text files: lastgame.inf (the options and the last
 // board size, 4 lines) and highscore.inf (the nine fastest-times tables, 90
 // lines). Every line ends with CR LF; numbers are plain decimals; names are
-// Latin-1 on disk and UTF-8 in memory.
+// UTF-8, on disk as in memory. A name line that is not valid UTF-8 was written
+// by an older copy of the game and reads as Latin-1 (that line alone).
 //
 // Only a plain file (or a link to one) of at most 1 MB is read: anything else
 // in its place, a pipe or a device, reads as a missing file.
@@ -52,7 +53,8 @@ bool loadLastGame(const std::string& path, tables::Options& options);
 // Also sets tables.fieldsread to the number of fields taken (0..90). Nothing
 // else is checked: tables out of order, or names beside empty entries, are
 // kept as read. Only a name of absurd length is cut: its first
-// kLongestKeptName characters are kept (and saved back).
+// kLongestKeptName characters (code points, never half a one) are kept, and
+// saved back.
 bool loadHighscoresText(std::string_view text, FastestTimes& tables);
 bool loadHighscores(std::istream& in, FastestTimes& tables);
 bool loadHighscores(const std::string& path, FastestTimes& tables);
@@ -65,8 +67,8 @@ bool loadBoth(const std::string& lastgamePath, const std::string& highscorePath,
 
 // The exact bytes of each file.
 std::string lastGameText(const tables::Options& options);
-// Characters of a name outside Latin-1, and CR or LF (which would split the
-// field in two), are written as '?'.
+// Names are written as UTF-8; CR or LF in a name (which would split the field
+// in two) is written as '?'.
 std::string highscoreText(const FastestTimes& tables);
 
 // The tables a save writes to highscorePath. When the tables hold fewer than

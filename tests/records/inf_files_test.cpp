@@ -68,31 +68,59 @@ TEST_F(InfFiles, LastGameKeepsWhatIsNotRead) {
     EXPECT_EQ(records::lastGameText(options), "1\r\n1\r\n1\r\n2\r\n");
 }
 
-TEST_F(InfFiles, HighscoreLinesGoByRankThenTableWithNamesInLatin1) {
+TEST_F(InfFiles, HighscoreLinesGoByRankThenTableWithNamesInUtf8) {
     FastestTimes t;
     t.bestname[0][1][2] = " Zoë \"Ace\" ";  // blanks and quotes are kept
     t.besttime[1][2][3] = -7;               // table k = size * 3 + level = 5, rank index 3
-    t.bestname[1][2][3] = "5€ 日本";
-    t.bestname[2][2][4] = "two\r\nlines\xff";
-    const std::string text =
-        fileOf(90, {{47, " Zo\xeb \"Ace\" "}, {60, "-7"}, {69, "5? ??"}, {90, "two??lines?"}});
+    t.bestname[1][2][3] = "Наташа 5€ 日本 🦊";
+    t.bestname[2][2][4] = "two\r\nlines\xff";  // not UTF-8: written as the reading takes it
+    const std::string text = fileOf(
+        90,
+        {{47, t.bestname[0][1][2]}, {60, "-7"}, {69, t.bestname[1][2][3]}, {90, "two??linesÿ"}});
     ASSERT_TRUE(records::saveHighscores(highscore_, t));
     EXPECT_EQ(read(highscore_), text);
     FastestTimes loaded;
     ASSERT_TRUE(records::loadHighscores(highscore_, loaded));
     EXPECT_EQ(records::highscoreText(loaded), text);
-    EXPECT_EQ(loaded.bestname[0][1][2], t.bestname[0][1][2]);
+    EXPECT_EQ(loaded.bestname[1][2][3], t.bestname[1][2][3]);
 }
 
 TEST_F(InfFiles, BadHighscoreLinesCostOnlyThemselves) {
-    // A time line that is not a 16-bit decimal reads as 0.
-    write(highscore_, fileOf(90, {{1, "abc"}, {2, ""}, {3, "32768"}, {4, " 12 "}, {5, "-32768"}}));
+    // A time line that is not a 16-bit decimal reads as 0. A name line that is
+    // not UTF-8 (an older game's Latin-1, or damage) reads as Latin-1, that
+    // line alone, and is saved as UTF-8.
+    std::map<int, std::string> lines = {
+        {1, "abc"}, {2, ""}, {3, "32768"}, {4, " 12 "}, {5, "-32768"}};
+    std::map<int, std::string> saved = {{4, "12"}, {5, "-32768"}};
+    const std::pair<const char*, const char*> names[] = {
+        {"Zo\xeb", "Zoë"},
+        {"Łucja", "Łucja"},
+        {"Zo\xc3", "ZoÃ"},                            // cut short by the line end
+        {"\xc0\xafx", "À¯x"},                         // overlong
+        {"\xed\xa0\x80", "í\u00a0\u0080"},            // a surrogate
+        {"\xf4\x90\x80\x80", "ô\u0090\u0080\u0080"},  // beyond U+10FFFF
+        {"Řehoř \xa9", "Å\u0098ehoÅ\u0099 ©"},        // one stray byte: the whole line
+        {"\x80", "\u0080"},
+        {"Ann", "Ann"}};
+    for (int k = 0; k < 9; ++k) {
+        lines[10 + k] = names[k].first;
+        saved[10 + k] = names[k].second;
+    }
+    write(highscore_, fileOf(90, lines));
     FastestTimes t;
     t.besttime[0][0][0] = 99;
     ASSERT_TRUE(records::loadHighscores(highscore_, t));
-    EXPECT_EQ(records::highscoreText(t), fileOf(90, {{4, "12"}, {5, "-32768"}}));
+    EXPECT_EQ(t.bestname[0][0][0], "Zoë");
+    EXPECT_EQ(records::highscoreText(t), fileOf(90, saved));
     EXPECT_FALSE(records::loadHighscores(path("missing.inf"), t));
     EXPECT_EQ(t.fieldsread, 0);
+
+    // Plain ASCII names come back byte for byte, as older games wrote them.
+    const std::string ascii = fileOf(90, {{1, "35"}, {10, "Zoe 7"}, {19, "47"}, {90, "Max"}});
+    write(highscore_, ascii);
+    ASSERT_TRUE(records::loadHighscores(highscore_, t));
+    ASSERT_TRUE(records::saveHighscores(highscore_, t));
+    EXPECT_EQ(read(highscore_), ascii);
 }
 
 TEST_F(InfFiles, SaveKeepsRecordsTheRunNeverRead) {
@@ -211,21 +239,33 @@ TEST_F(InfFiles, OnlyPlainFilesOfSensibleSizeAreRead) {
 }
 
 // A name of absurd length in an edited file is cut to its first thousand
-// characters (not bytes: Latin-1 letters are two bytes in memory), and that
-// is what the next save writes.
+// characters: not bytes, and never half a character. That is what the next
+// save writes.
 TEST_F(InfFiles, AbsurdlyLongNamesAreCut) {
-    const std::string letters(1500, '\xe9');  // é in Latin-1
-    write(highscore_, fileOf(90, {{10, letters}, {11, std::string(100'000, 'n')}}));
+    auto times = [](const std::string& text, int n) {
+        std::string out;
+        for (int i = 0; i < n; ++i) out += text;
+        return out;
+    };
+    const std::string latin1(1500, '\xe9');  // é in Latin-1
+    write(highscore_, fileOf(90, {{10, latin1},
+                                  {11, std::string(100'000, 'n')},
+                                  {12, times("Ł", 1500)},
+                                  {13, times("日", 1500)},
+                                  {14, "x" + times("🦊", 1500)}}));
     FastestTimes t;
     ASSERT_TRUE(records::loadHighscores(highscore_, t));
-    std::string e1000;
-    for (int i = 0; i < 1000; ++i) e1000 += "\xc3\xa9";
-    // Compared whole but reported short: a failure would print megabytes.
-    EXPECT_TRUE(t.bestname[0][0][0] == e1000) << t.bestname[0][0][0].size() << " bytes";
-    EXPECT_TRUE(t.bestname[0][1][0] == std::string(1000, 'n')) << t.bestname[0][1][0].size();
+    const std::string kept[] = {times("é", 1000), std::string(1000, 'n'), times("Ł", 1000),
+                                times("日", 1000), "x" + times("🦊", 999)};
+    for (int k = 0; k < 5; ++k) {
+        const std::string& name = t.bestname[k / 3][k % 3][0];
+        // Compared whole but reported short: a failure would print megabytes.
+        EXPECT_TRUE(name == kept[k]) << "table " << k << ": " << name.size() << " bytes";
+    }
     ASSERT_TRUE(records::saveHighscores(highscore_, t));
-    EXPECT_TRUE(read(highscore_) ==
-                fileOf(90, {{10, letters.substr(0, 1000)}, {11, std::string(1000, 'n')}}))
+    EXPECT_TRUE(
+        read(highscore_) ==
+        fileOf(90, {{10, kept[0]}, {11, kept[1]}, {12, kept[2]}, {13, kept[3]}, {14, kept[4]}}))
         << read(highscore_).size() << " bytes written";
 }
 
