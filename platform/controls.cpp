@@ -3,6 +3,7 @@
 #include <QFontDatabase>
 #include <QPainter>
 #include <QSet>
+#include <QValidator>
 #include <algorithm>
 
 #include "platform/files.h"
@@ -59,6 +60,27 @@ int shiftState(Qt::KeyboardModifiers modifiers) {
     if (modifiers & Qt::ControlModifier) state |= 2;
     if (modifiers & Qt::AltModifier) state |= 4;
     return state;
+}
+
+namespace {
+
+class CharacterLimit : public QValidator {
+  public:
+    CharacterLimit(int most, QObject* parent) : QValidator(parent), most_(most) {}
+    State validate(QString& text, int&) const override {
+        const qsizetype pairs =
+            std::count_if(text.begin(), text.end(), [](QChar c) { return c.isLowSurrogate(); });
+        return text.size() - pairs <= most_ ? Acceptable : Invalid;
+    }
+
+  private:
+    int most_;
+};
+
+}  // namespace
+
+void TextBox::setMaxCharacters(int most) {
+    setValidator(new CharacterLimit(most, this));
 }
 
 void PictureBox::loadPicture(const std::string& relativePath) {

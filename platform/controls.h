@@ -203,6 +203,12 @@ class TextBox : public Placed<QLineEdit> {
   public:
     explicit TextBox(QWidget* parent) : Placed<QLineEdit>(parent) {}
     std::string Text() const { return text().toStdString(); }
+    // A limit in characters as the player sees them, where QLineEdit's own
+    // maximum counts UTF-16 units (an emoji is two). Characters are counted
+    // as code points: keyboards send accented letters whole (ë, not e and a
+    // mark), and the saved names are capped the same way. A key or paste
+    // that would go past the limit is refused.
+    void setMaxCharacters(int most);
 };
 
 // Shared looks of the game's screens.

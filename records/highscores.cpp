@@ -1,6 +1,7 @@
 #include "records/highscores.h"
 
 #include <QFontMetrics>
+#include <QTextBoundaryFinder>
 #include <algorithm>
 #include <cstdlib>
 #include <exception>
@@ -80,20 +81,27 @@ double numericValue(const std::string& text) {
 // The start of a name that shows in its label: whole characters up to the
 // first one that reaches the label's edge, which is drawn cut there. A name
 // read from an edited file may be far longer than the row, and laying out
-// text nobody sees would hold up the screen.
+// text nobody sees would hold up the screen. Characters here are what the
+// player sees as one (grapheme clusters): a letter with its accent marks, or
+// an emoji of two UTF-16 units, is kept or dropped whole.
 QString visiblePart(const QString& name, const Label& label) {
     const QFontMetrics metrics = label.fontMetrics();
     const int width = label.contentsRect().width();
     // Hardly a character is narrower than a pixel, so more than `width` of
     // them never show; a binary search then finds the one at the edge.
-    int fits = 0, beyond = std::min<int>(name.size(), width + 1);
-    if (metrics.horizontalAdvance(name.left(beyond)) <= width) return name.left(beyond);
-    while (beyond - fits > 1) {
-        const int middle = (fits + beyond) / 2;
-        (metrics.horizontalAdvance(name.left(middle)) <= width ? fits : beyond) = middle;
+    QList<qsizetype> ends;  // ends[i]: where the first i + 1 characters end
+    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, name);
+    while (ends.size() <= width && characters.toNextBoundary() > 0) {
+        ends.append(characters.position());
     }
-    if (beyond < name.size() && name.at(beyond - 1).isHighSurrogate()) ++beyond;
-    return name.left(beyond);
+    if (ends.isEmpty()) return {};
+    if (metrics.horizontalAdvance(name.left(ends.last())) <= width) return name.left(ends.last());
+    qsizetype fits = -1, beyond = ends.size() - 1;  // -1: no character, which always fits
+    while (beyond - fits > 1) {
+        const qsizetype middle = (fits + beyond) / 2;
+        (metrics.horizontalAdvance(name.left(ends[middle])) <= width ? fits : beyond) = middle;
+    }
+    return name.left(ends[beyond]);
 }
 
 // The start-up goes on past a step that fails, so a damaged table or an odd
@@ -156,7 +164,7 @@ void Highscores::buildLayout() {
         auto* box = new platform::TextBox(frame);
         box->setBounds(kNameLeft, 0, kNameBoxWidth, kNameBoxHeight);
         box->setFont(designFont(QStringLiteral("Arial"), 12, true));
-        box->setMaxLength(kMaxNameLength);
+        box->setMaxCharacters(kMaxNameLength);
         box->hide();
         Text1.add(j, box);
     }

@@ -3,6 +3,9 @@
 #include "records/highscores.h"
 
 #include <QApplication>
+#include <QGlyphRun>
+#include <QTextBoundaryFinder>
+#include <QTextLayout>
 #include <QtTest>
 #include <string>
 
@@ -21,6 +24,11 @@ class HighscoresTests : public QObject {
     static Highscores& screen() { return records::highscores(); }
     static int row(int level, int rank) { return level * records::kRanks + rank; }
     static QColor textColour(const QWidget& w) { return w.palette().color(QPalette::WindowText); }
+    static string repeat(const string& text, int times) {
+        string out;
+        while (times-- > 0) out += text;
+        return out;
+    }
     static void setEntry(int size, int level, int rank, int time, const string& name) {
         tables.besttime[size][level][rank] = std::int16_t(time);
         tables.bestname[size][level][rank] = name;
@@ -95,21 +103,50 @@ class HighscoresTests : public QObject {
 
     // A name far longer than its row (from an edited file) shows only its
     // start, up to the character cut by the label's edge: laying out the rest
-    // held the screen up. The table keeps the whole name.
+    // held the screen up. A character is never split, be it a letter with a
+    // combining accent or an emoji of two UTF-16 units. The table keeps the
+    // whole name.
     void aLongNameShowsOnlyWhatFitsItsRow() {
-        const string longName = "Zo" + string(100'000, 'W');
-        setEntry(0, 2, 0, 35, longName);
-        records::openForViewing(tables, 0, kBlue);
+        const string longNames[] = {"Zo" + string(100'000, 'W'), repeat("e\u0308", 100),
+                                    repeat("🦊", 100), repeat("Łucja Наташа ", 20)};
+        for (const string& longName : longNames) {
+            setEntry(0, 2, 0, 35, longName);
+            records::openForViewing(tables, 0, kBlue);
+            Highscores& s = screen();
+            QVERIFY(QTest::qWaitForWindowExposed(&s));
+            const platform::Label& name = s.Label8(row(2, 0));
+            const QString whole = QString::fromStdString(longName), shown = name.text();
+            QVERIFY2(whole.startsWith(shown) && shown.size() < 100, qPrintable(shown));
+            QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, whole);
+            characters.setPosition(shown.size());
+            QVERIFY2(characters.isAtBoundary(), qPrintable(shown));
+            const QFontMetrics metrics = name.fontMetrics();
+            QVERIFY(metrics.horizontalAdvance(shown) > name.width());
+            QVERIFY(metrics.horizontalAdvance(whole.left(characters.toPreviousBoundary())) <=
+                    name.width());
+            QCOMPARE(tables.bestname[0][2][0], longName);
+        }
+    }
+
+    // Polish, Czech, Greek and Cyrillic names are drawn with a real glyph for
+    // every character, in the labels' own font or one Qt falls back to.
+    void namesInOtherAlphabetsShowWhole() {
+        const string names[] = {"Zoë Łucja Żółć", "Řehoř Čapková", "Νίκη Σοφία", "Наташа Ёжик"};
+        for (int r = 0; r < 4; ++r) setEntry(1, 0, r, 40 + r, names[r]);
+        records::openForViewing(tables, 1, kBlue);
         Highscores& s = screen();
         QVERIFY(QTest::qWaitForWindowExposed(&s));
-        const platform::Label& name = s.Label8(row(2, 0));
-        const QString shown = name.text();
-        QVERIFY2(QString::fromStdString(longName).startsWith(shown) && shown.size() < 100,
-                 qPrintable(shown));
-        const QFontMetrics metrics = name.fontMetrics();
-        QVERIFY(metrics.horizontalAdvance(shown) > name.width());
-        QVERIFY(metrics.horizontalAdvance(shown.chopped(1)) <= name.width());
-        QCOMPARE(tables.bestname[0][2][0], longName);
+        for (int r = 0; r < 4; ++r) {
+            const platform::Label& label = s.Label8(row(0, r));
+            QCOMPARE(label.text(), QString::fromStdString(names[r]));
+            QTextLayout layout(label.text(), label.font());
+            layout.beginLayout();
+            layout.createLine();
+            layout.endLayout();
+            for (const QGlyphRun& run : layout.glyphRuns())
+                QVERIFY2(!run.glyphIndexes().contains(0),
+                         qPrintable(label.text() + " in " + run.rawFont().familyName()));
+        }
     }
 
     void nameEntryOverTheNewRow() {
@@ -128,10 +165,17 @@ class HighscoresTests : public QObject {
         string& entry = tables.bestname[0][1][2];
         QTRY_COMPARE_WITH_TIMEOUT(entry, string("Ann"), 2000);  // the running timer
 
+        // 25 characters at most, as the player sees them: an emoji is one.
+        box.clear();
+        for (const char* key : {"🦊", "Н", "а", "т", "а", "ш", "а"})
+            QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, QString::fromUtf8(key), {});
+        QTest::keyClicks(&box, "abcdefghijklmnopqrstuvwxyz0123");
+        s.Timer1.tick();
+        QCOMPARE(entry, string("🦊Наташаabcdefghijklmnopqr"));
         box.clear();
         QTest::keyClicks(&box, "abcdefghijklmnopqrstuvwxyz0123");
         s.Timer1.tick();
-        QCOMPARE(entry, string("abcdefghijklmnopqrstuvwxy"));  // 25 characters at most
+        QCOMPARE(entry, string("abcdefghijklmnopqrstuvwxy"));
 
         // A board command unloads the screen: the name stays as of the last tick.
         QTest::keyClick(&box, Qt::Key_Backspace);
