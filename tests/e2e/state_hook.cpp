@@ -9,6 +9,8 @@
 //                                 s is the piece's picture (1 to N)
 //   textbox <x> <y>               centre of the text box holding the focus
 //   platform <name>               the Qt platform the game runs on
+//   name <row> <text>             a name the fastest-times screen shows, row
+//                                 5 * level + rank, as UTF-8
 //
 // and, for playing a board without dragging:
 //
@@ -31,6 +33,7 @@
 #include "board/board_screen.h"
 #include "platform/form.h"
 #include "platform/sound.h"
+#include "records/highscores.h"
 #include "tables/screens.h"
 
 namespace {
@@ -59,6 +62,13 @@ void writeBoard(std::ostream& out, board::Board& board) {
     out << "picked " << board.picking().picked() << '\n';
 }
 
+void writeNames(std::ostream& out, records::Highscores& scores) {
+    for (int k = 0; k < scores.Label8.count(); ++k) {
+        const QString name = scores.Label8(k).text();
+        if (!name.isEmpty()) out << "name " << k << ' ' << name.toStdString() << '\n';
+    }
+}
+
 std::string describeScreens() {
     std::ostringstream out;
     for (const auto& [screen, name] : tables::kScreens) {
@@ -68,6 +78,7 @@ std::string describeScreens() {
         out << "screen " << name << ' ' << origin.x() << ' ' << origin.y() << '\n';
         out << "window " << name << ' ' << form->winId() << '\n';
         if (auto* board = dynamic_cast<board::Board*>(form)) writeBoard(out, *board);
+        if (auto* scores = dynamic_cast<records::Highscores*>(form)) writeNames(out, *scores);
     }
     if (auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
         box && box->isVisible()) {

@@ -18,6 +18,8 @@ for rank in 0 1 2 3 4; do
     for table in 0 1 2 3 4 5 6 7 8; do printf '%d\r\n' $((10 * rank + table + 1)); done
     for table in 0 1 2 3 4 5 6 7 8; do printf 'Pl\xe4yer %d\r\n' "$table"; done
 done >"$work/corpus/highscore.inf"
+# The same with UTF-8 names, as the game writes them now.
+LC_ALL=C sed 's/\xe4/\xc5\x82/' "$work/corpus/highscore.inf" >"$work/corpus/highscore-utf8.inf"
 
 if ! "$fuzzer" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
     -artifact_prefix="$failures/" "$work/corpus" >"$work/log" 2>&1; then

@@ -1,6 +1,9 @@
 // Renders every screen of the game, in a fixed state, to numbered PNG files:
 //
-//   screen_shots <game folder> <output folder>
+//   screen_shots <game folder> <output folder> [<folder of .inf files>]
+//
+// The game starts without saved files, or with the lastgame.inf and
+// highscore.inf of the third folder (records to show, say).
 //
 // Two runs of the same code give the same files, so a change that must not
 // alter the looks (moving tables about, say) is checked by running this before
@@ -121,8 +124,9 @@ void shootBoard(int size, int level, bool timers) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: screen_shots <game folder> <output folder>\n");
+    if (argc != 3 && argc != 4) {
+        std::fprintf(
+            stderr, "usage: screen_shots <game folder> <output folder> [<folder of .inf files>]\n");
         return 2;
     }
     QApplication application(argc, argv);
@@ -133,6 +137,9 @@ int main(int argc, char* argv[]) {
     QTemporaryDir work;
     for (const char* folder : {"Images", "wav"})
         QFile::link(game + "/" + folder, work.filePath(folder));
+    if (argc == 4)
+        for (const char* file : {"lastgame.inf", "highscore.inf"})
+            QFile::copy(QDir(argv[3]).filePath(file), work.filePath(file));
     QDir::setCurrent(work.path());
 
     shell::registerScreens();
