@@ -114,13 +114,6 @@ TEST_F(InfFiles, BadHighscoreLinesCostOnlyThemselves) {
     EXPECT_EQ(records::highscoreText(t), fileOf(90, saved));
     EXPECT_FALSE(records::loadHighscores(path("missing.inf"), t));
     EXPECT_EQ(t.fieldsread, 0);
-
-    // Plain ASCII names come back byte for byte, as older games wrote them.
-    const std::string ascii = fileOf(90, {{1, "35"}, {10, "Zoe 7"}, {19, "47"}, {90, "Max"}});
-    write(highscore_, ascii);
-    ASSERT_TRUE(records::loadHighscores(highscore_, t));
-    ASSERT_TRUE(records::saveHighscores(highscore_, t));
-    EXPECT_EQ(read(highscore_), ascii);
 }
 
 TEST_F(InfFiles, SaveKeepsRecordsTheRunNeverRead) {
