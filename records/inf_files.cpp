@@ -40,8 +40,8 @@ class Lines {
 };
 
 // More than any file the game writes (highscore.inf with every name at its
-// longest, four bytes a character, is under 200 KB), little enough that whatever stands in a file's
-// place cannot fill the memory.
+// longest, four bytes a character, is under 200 KB), little enough that
+// whatever stands in a file's place cannot fill the memory.
 constexpr off_t kLargestFile = 1 << 20;
 
 // Only a plain file (or a link to one) of a sensible size is read: a pipe
