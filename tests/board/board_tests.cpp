@@ -61,6 +61,16 @@ class BoardTests : public QObject {
     static void click(Board& b, const Control& c) {
         QTest::mouseClick(b.windowHandle(), Qt::LeftButton, {}, centre(c));
     }
+    template <class Control>
+    static void doubleClick(Board& b, const Control& c) {
+        QTest::mouseDClick(b.windowHandle(), Qt::LeftButton, {}, centre(c));
+    }
+    // A click, then at once the second press of a double-click, held.
+    static void doubleClickHeld(Board& b, QPoint at) {
+        QTest::mouseClick(b.windowHandle(), Qt::LeftButton, {}, at);
+        QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval;
+        QTest::mousePress(b.windowHandle(), Qt::LeftButton, {}, at);
+    }
     static void clickAt(Board& b, float x, float y) {
         QTest::mouseClick(b.windowHandle(), Qt::LeftButton, {}, pixel(x, y));
     }
@@ -497,6 +507,86 @@ class BoardTests : public QObject {
         click(b, p);
         click(b, b.Label3(StartAgain));  // commands end the pick too
         QVERIFY(b.picking().picked() == -1 && !b.pickMarked());
+    }
+
+    // Young players double-click everything: a double-click does what one
+    // click does, on a command, a thumbnail, a piece, a cell and a given. Held
+    // and dragged, its second press drags the piece, which ends the pick.
+    void aDoubleClickIsOneClick() {
+        Board& b = open(0);
+        doubleClick(b, b.Label3(NewPuzzle));
+        QCOMPARE(takeSounds(), kSpace);  // one deal
+        doubleClick(b, b.Label3(SwitchPanel));
+        QVERIFY(b.Image4(0).Visible() && b.Label3(SwitchPanel).Caption() == "Show Rules");
+        const int set = (b.pictureset + 1) % 8;
+        doubleClick(b, b.Image4(set));
+        QVERIFY(b.pictureset == set && showsCurrentSet(b));
+        QCOMPARE(takeSounds(), Sounds(2, kSpace[0]));
+
+        const int cell = firstCell(b, false), piece = solutionPiece(b, cell);
+        const int given = firstCell(b, true);
+        const auto& p = b.Image2(piece);
+        doubleClick(b, p);
+        QCOMPARE(b.picking().picked(), piece);
+        QCOMPARE(takeSounds(), kClick1);              // one drop where it lies
+        doubleClick(b, b.Image2(pieceOn(b, given)));  // the board's own click
+        QCOMPARE(corner(p), corner(b.Image1(given)) + QPointF(600, -600));
+        QCOMPARE(b.picking().picked(), -1);  // not picked up again off the given
+        click(b, p);
+        doubleClick(b, b.Image1(cell));
+        QVERIFY(liesOn(p, b.Image1(cell)) && b.picking().picked() == -1);
+
+        int second = cell + 1;
+        while (isGiven(b, second)) ++second;
+        const int other = solutionPiece(b, second);
+        doubleClickHeld(b, centre(b.Image2(other)));
+        QTest::mouseMove(b.windowHandle(), centre(b.Image1(second)));
+        QTest::mouseRelease(b.windowHandle(), Qt::LeftButton, {}, centre(b.Image1(second)));
+        QVERIFY(liesOn(b.Image2(other), b.Image1(second)) && b.picking().picked() == -1);
+    }
+
+    // A finger plays as the mouse does: it drags a piece, a tap picks one and
+    // a tap on a cell puts it there, two quick taps are one. A second finger
+    // during a drag moves nothing, and the first still drops its piece.
+    void fingersPlayLikeTheMouse() {
+        static QPointingDevice* const screen = QTest::createTouchDevice();
+        Board& b = open(0);
+        QWindow* w = b.windowHandle();
+        auto tap = [&](QPoint at) {
+            QTest::touchEvent(w, screen).press(0, at, w);
+            QTest::touchEvent(w, screen).release(0, at, w);
+        };
+        std::vector<int> free;  // the cells without a given, and their pieces
+        for (int c = 0; c < cells(b); ++c)
+            if (!isGiven(b, c)) free.push_back(c);
+        const int dragged = solutionPiece(b, free[0]), tapped = solutionPiece(b, free[1]);
+        QTest::touchEvent(w, screen).press(0, centre(b.Image2(dragged)), w);
+        QTest::touchEvent(w, screen).move(0, centre(b.Image1(free[0])), w);
+        QTest::touchEvent(w, screen).release(0, centre(b.Image1(free[0])), w);
+        QVERIFY(liesOn(b.Image2(dragged), b.Image1(free[0])));
+        tap(centre(b.Image2(tapped)));
+        QCOMPARE(b.picking().picked(), tapped);
+        tap(centre(b.Image1(free[1])));
+        QVERIFY(liesOn(b.Image2(tapped), b.Image1(free[1])));
+        QCOMPARE(takeSounds(), Sounds(3, kClick1[0]));
+        tap(centre(b.Label3(SwitchPanel)));
+        tap(centre(b.Label3(SwitchPanel)));
+        QVERIFY(b.Image4(0).Visible());
+
+        const int first = solutionPiece(b, free[2]), other = solutionPiece(b, free[3]);
+        const QPoint from = centre(b.Image2(first)), to = centre(b.Image1(free[2]));
+        const QPointF otherHome = corner(b.Image2(other));
+        QTest::touchEvent(w, screen).press(0, from, w);
+        QTest::touchEvent(w, screen).move(0, from + QPoint(40, 40), w);
+        QTest::touchEvent(w, screen)
+            .move(0, from + QPoint(40, 40), w)
+            .press(1, centre(b.Image2(other)), w);
+        QTest::touchEvent(w, screen).move(0, to, w).move(1, to + QPoint(0, 200), w);
+        QTest::touchEvent(w, screen).release(0, to, w).move(1, to + QPoint(0, 210), w);
+        QTest::touchEvent(w, screen).move(1, to + QPoint(0, 250), w);
+        QTest::touchEvent(w, screen).release(1, to + QPoint(0, 250), w);
+        QVERIFY(liesOn(b.Image2(first), b.Image1(free[2])));
+        QCOMPARE(corner(b.Image2(other)), otherHome);
     }
 
     // A whole 4x4 puzzle from the keyboard: the ring walks the tray, Enter

@@ -40,6 +40,19 @@ class Probe : public Form {
     Label* caption;
 };
 
+// A window with clicks of its own on its background, as a board has.
+struct ClickableWindow : QWidget {
+    int releases = 0;
+    void mouseReleaseEvent(QMouseEvent*) override { ++releases; }
+};
+
+// A click, then at once the second press of a double-click, held.
+void doubleClickHeld(QWindow* window, QPoint at) {
+    QTest::mouseClick(window, Qt::LeftButton, {}, at);
+    QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval;
+    QTest::mousePress(window, Qt::LeftButton, {}, at);
+}
+
 void writeFile(const QString& path, const QByteArray& bytes) {
     QFile f(path);
     QVERIFY(f.open(QIODevice::WriteOnly));
@@ -229,6 +242,54 @@ class PlatformTests : public QObject {
         QCOMPARE(selectedA, 2);
         QCOMPARE(selectedB, 1);
         QVERIFY(!b.Value());
+    }
+
+    // A double-click is one click: one Click of a label, one press and one
+    // release of a picture, one change of a box, one release of the window's
+    // own. Held, its second press drags a picture from where it was pressed,
+    // once it has gone further than a shaking hand does; a label never hears
+    // of it.
+    void aDoubleClickIsOneClick() {
+        ClickableWindow window;
+        window.resize(300, 100);
+        Label command(&window);
+        PictureBox piece(&window);
+        CheckBox box(&window);
+        command.setBounds(0, 0, 1500, 600);
+        piece.setBounds(1500, 0, 1500, 600);
+        box.setBounds(3000, 0, 1500, 600);
+        box.setText("Sound");
+        int clicks = 0, changes = 0;
+        QStringList seen;  // the picture's presses, drags and releases
+        command.on.click = [&] { ++clicks; };
+        box.onChange = [&] { ++changes; };
+        piece.on.mouseDown = [&](int, int, float x, float y) {
+            seen << QString("D%1,%2").arg(x).arg(y);
+        };
+        piece.on.mouseMove = [&](int b, int, float, float) {
+            if (b) seen << "M";
+        };
+        piece.on.mouseUp = [&](int, int, float, float) { seen << "U"; };
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QWindow* w = window.windowHandle();
+        const QPoint onCommand(50, 20), onPiece(150, 20), onBox(208, 20), bare(150, 80);
+        for (QPoint at : {onCommand, onPiece, onBox, bare})
+            QTest::mouseDClick(w, Qt::LeftButton, {}, at);
+        QVERIFY(clicks == 1 && changes == 1 && box.Value() == 1 && window.releases == 1);
+        QCOMPARE(seen, (QStringList{"D750,300", "U"}));
+
+        seen.clear();
+        doubleClickHeld(w, onPiece);
+        QTest::mouseMove(w, onPiece + QPoint(3, 2));  // a shaking hand drags nothing
+        QCOMPARE(seen, (QStringList{"D750,300", "U"}));
+        QTest::mouseMove(w, onPiece + QPoint(30, 2));
+        QTest::mouseRelease(w, Qt::LeftButton, {}, onPiece + QPoint(30, 2));
+        QCOMPARE(seen, (QStringList{"D750,300", "U", "D750,300", "M", "U"}));
+        doubleClickHeld(w, onCommand);
+        QTest::mouseMove(w, onCommand + QPoint(30, 0));
+        QTest::mouseRelease(w, Qt::LeftButton, {}, onCommand + QPoint(30, 0));
+        QCOMPARE(clicks, 2);
     }
 
     // The overlay's border makes it as wide as the full-size screen; window

@@ -217,6 +217,19 @@ class TitleAndOptionsTests : public ScreenTest {
         QVERIFY(sounds.empty());
     }
 
+    // A double-click is one click: "OK" leads on and nothing more, "Play
+    // Sound" ticks and stays ticked, a size is chosen.
+    void aDoubleClickIsOneClick() {
+        platform::screens::show(Titlefrm::kScreen);
+        doubleClick(*screen<Titlefrm>().Label5);
+        QVERIFY(options().isVisible() && !isLoaded(Titlefrm::kScreen));
+        QVERIFY(shell::module1().playsound == 0 && shell::module1().timerson == 0);
+        doubleClick(*options().Check1, true);
+        QCOMPARE(shell::module1().playsound, 1);
+        doubleClick(options().Option1(1), true);
+        QVERIFY(options().Option1(1).Value() && shell::module1().boardsize == 1);
+    }
+
     void levelButtonsStartTheChosenSize() {
         const char* const saved = "1\r\n0\r\n1\r\n0\r\n";
         for (int size = 0; size < 3; ++size) {
