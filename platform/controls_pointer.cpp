@@ -11,12 +11,15 @@
 // release after it. Other controls get nothing of it, so a shaky double-click
 // on a command or a box is still one click.
 //
-// Touch needs nothing of its own: Qt turns the first finger into the mouse
-// (a tap is a click, two quick taps a double-click) and leaves out every
-// other finger, so a second finger during a drag neither drags nor drops.
+// Touch needs little of its own: Qt turns the first finger into the mouse (a
+// tap is a click, two quick taps on one spot a double-click) and leaves out
+// every other finger, so a second finger during a drag neither drags nor
+// drops.
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QStyleHints>
+#include <cmath>
 #include <optional>
 
 #include "platform/controls.h"
@@ -51,6 +54,9 @@ class OneClick : public QObject {
     bool moved(QMouseEvent& e);
     bool released(QMouseEvent& e);
 
+    bool farFromLastPress(const QMouseEvent& e) const;
+
+    QPointF lastPress_;
     std::optional<SecondPress> second_;
     bool delivering_ = false;  // the late press, handed on by this filter
 };
@@ -63,8 +69,12 @@ bool takesPresses(QWidget* control) {
 bool OneClick::eventFilter(QObject* watched, QEvent* e) {
     if (delivering_ || !watched->isWidgetType()) return false;
     switch (e->type()) {
+        case QEvent::MouseButtonPress:
+            lastPress_ = static_cast<QMouseEvent*>(e)->globalPosition();
+            return false;
         case QEvent::MouseButtonDblClick: {
             const auto* m = static_cast<QMouseEvent*>(e);
+            if (farFromLastPress(*m)) return false;  // a press of its own
             second_ = SecondPress{static_cast<QWidget*>(watched),
                                   m->position(),
                                   m->scenePosition(),
@@ -82,6 +92,17 @@ bool OneClick::eventFilter(QObject* watched, QEvent* e) {
         default:
             return false;
     }
+}
+
+// Qt forgets a double-click's first press once the mouse has moved away
+// from it, but a finger does not move between taps: a tap on a piece and a
+// quick tap on a cell would come as a double-click.
+bool OneClick::farFromLastPress(const QMouseEvent& e) const {
+    const QStyleHints& hints = *QGuiApplication::styleHints();
+    const bool touch = e.device() && e.device()->type() == QInputDevice::DeviceType::TouchScreen;
+    const int near = touch ? hints.touchDoubleTapDistance() : hints.mouseDoubleClickDistance();
+    const QPointF away = e.globalPosition() - lastPress_;
+    return std::abs(away.x()) > near || std::abs(away.y()) > near;
 }
 
 bool OneClick::moved(QMouseEvent& e) {
