@@ -94,9 +94,10 @@ bool OneClick::eventFilter(QObject* watched, QEvent* e) {
     }
 }
 
-// Qt forgets a double-click's first press once the mouse has moved away
-// from it, but a finger does not move between taps: a tap on a piece and a
-// quick tap on a cell would come as a double-click.
+// Qt forgets a double-click's first press once the pointer has moved away
+// from it, but between two taps it measures from where the mouse last
+// pressed, not the finger: a tap on a piece and a quick tap on the cell the
+// mouse last clicked would come as a double-click.
 bool OneClick::farFromLastPress(const QMouseEvent& e) const {
     const QStyleHints& hints = *QGuiApplication::styleHints();
     const bool touch = e.device() && e.device()->type() == QInputDevice::DeviceType::TouchScreen;
