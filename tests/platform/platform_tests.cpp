@@ -40,12 +40,6 @@ class Probe : public Form {
     Label* caption;
 };
 
-// A window with clicks of its own on its background, as a board has.
-struct ClickableWindow : QWidget {
-    int releases = 0;
-    void mouseReleaseEvent(QMouseEvent*) override { ++releases; }
-};
-
 // A click, then at once the second press of a double-click, held.
 void doubleClickHeld(QWindow* window, QPoint at) {
     QTest::mouseClick(window, Qt::LeftButton, {}, at);
@@ -245,24 +239,19 @@ class PlatformTests : public QObject {
     }
 
     // A double-click is one click: one Click of a label, one press and one
-    // release of a picture, one change of a box, one release of the window's
-    // own. Held, its second press drags a picture from where it was pressed,
-    // once it has gone further than a shaking hand does; a label never hears
-    // of it.
+    // release of a picture (the screens' tests try the rest). Held, its
+    // second press drags a picture from where it was pressed, once it has
+    // gone further than a shaking hand does; a label never hears of it.
     void aDoubleClickIsOneClick() {
-        ClickableWindow window;
-        window.resize(300, 100);
+        QWidget window;
+        window.resize(200, 40);
         Label command(&window);
         PictureBox piece(&window);
-        CheckBox box(&window);
         command.setBounds(0, 0, 1500, 600);
         piece.setBounds(1500, 0, 1500, 600);
-        box.setBounds(3000, 0, 1500, 600);
-        box.setText("Sound");
-        int clicks = 0, changes = 0;
+        int clicks = 0;
         QStringList seen;  // the picture's presses, drags and releases
         command.on.click = [&] { ++clicks; };
-        box.onChange = [&] { ++changes; };
         piece.on.mouseDown = [&](int, int, float x, float y) {
             seen << QString("D%1,%2").arg(x).arg(y);
         };
@@ -273,10 +262,10 @@ class PlatformTests : public QObject {
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         QWindow* w = window.windowHandle();
-        const QPoint onCommand(50, 20), onPiece(150, 20), onBox(208, 20), bare(150, 80);
-        for (QPoint at : {onCommand, onPiece, onBox, bare})
-            QTest::mouseDClick(w, Qt::LeftButton, {}, at);
-        QVERIFY(clicks == 1 && changes == 1 && box.Value() == 1 && window.releases == 1);
+        const QPoint onCommand(50, 20), onPiece(150, 20);
+        QTest::mouseDClick(w, Qt::LeftButton, {}, onCommand);
+        QTest::mouseDClick(w, Qt::LeftButton, {}, onPiece);
+        QCOMPARE(clicks, 1);
         QCOMPARE(seen, (QStringList{"D750,300", "U"}));
 
         seen.clear();
