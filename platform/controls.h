@@ -47,11 +47,25 @@ struct MouseHandlers {
 int buttonState(Qt::MouseButtons buttons);
 int shiftState(Qt::KeyboardModifiers modifiers);
 
+// A double-click is one click, on every control of every screen: its second
+// press and the release after it reach nothing. Only when that press, held,
+// drags a control that takes presses of its own (a piece) does the control
+// get it, late, and the drag after it (controls_pointer.cpp). Every control
+// turns the rule on for the whole program when it is made.
+void keepDoubleClicksSingle();
+
+// What pictures and labels do with the pointer, as their handlers see it.
+class PointerTarget {
+  public:
+    virtual ~PointerTarget() = default;
+    MouseHandlers on;
+};
+
 // Twips placement shared by every kind of control.
 template <class Widget>
 class Placed : public Widget {
   public:
-    explicit Placed(QWidget* parent) : Widget(parent) {}
+    explicit Placed(QWidget* parent) : Widget(parent) { keepDoubleClicksSingle(); }
 
     float Left() const { return left_; }
     float Top() const { return top_; }
@@ -98,10 +112,9 @@ class Placed : public Widget {
 
 // Placement plus the pointer events of pictures and labels.
 template <class Widget>
-class Clickable : public Placed<Widget> {
+class Clickable : public Placed<Widget>, public PointerTarget {
   public:
     explicit Clickable(QWidget* parent) : Placed<Widget>(parent) { this->setMouseTracking(true); }
-    MouseHandlers on;
 
   protected:
     void mousePressEvent(QMouseEvent* e) override;

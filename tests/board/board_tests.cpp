@@ -3,6 +3,7 @@
 // grid starts, and the commands. Positions are window pixels; the boards'
 // twips are all multiples of 15, so every position below is exact.
 #include <QAccessible>
+#include <QStyleHints>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <set>
@@ -60,6 +61,9 @@ class BoardTests : public QObject {
     template <class Control>
     static void click(Board& b, const Control& c) {
         QTest::mouseClick(b.windowHandle(), Qt::LeftButton, {}, centre(c));
+    }
+    static void doubleClick(Board& b, QPoint at) {
+        QTest::mouseDClick(b.windowHandle(), Qt::LeftButton, {}, at);
     }
     static void clickAt(Board& b, float x, float y) {
         QTest::mouseClick(b.windowHandle(), Qt::LeftButton, {}, pixel(x, y));
@@ -497,6 +501,91 @@ class BoardTests : public QObject {
         click(b, p);
         click(b, b.Label3(StartAgain));  // commands end the pick too
         QVERIFY(b.picking().picked() == -1 && !b.pickMarked());
+    }
+
+    // Young players double-click everything: a double-click does what one
+    // click does, on a command, a thumbnail, a piece, a cell and a given.
+    void aDoubleClickIsOneClick() {
+        Board& b = open(0);
+        doubleClick(b, centre(b.Label3(NewPuzzle)));
+        QCOMPARE(takeSounds(), kSpace);  // one deal
+        doubleClick(b, centre(b.Label3(SwitchPanel)));
+        QVERIFY(b.Image4(0).Visible() && b.Label3(SwitchPanel).Caption() == "Show Rules");
+        const int set = (b.pictureset + 1) % 8;
+        doubleClick(b, centre(b.Image4(set)));
+        QVERIFY(b.pictureset == set && showsCurrentSet(b));
+        QCOMPARE(takeSounds(), Sounds(2, kSpace[0]));
+
+        const int cell = firstCell(b, false), piece = solutionPiece(b, cell);
+        const int given = firstCell(b, true);
+        const auto& p = b.Image2(piece);
+        doubleClick(b, centre(p));
+        QCOMPARE(b.picking().picked(), piece);
+        QCOMPARE(takeSounds(), kClick1);  // one drop where it lies
+        // On the given's lower left, where the piece bouncing off the given
+        // leaves it bare: the board's own click.
+        const auto& g = b.Image2(pieceOn(b, given));
+        doubleClick(b, pixel(g.Left() + 300, g.Top() + g.Height() - 300));
+        QCOMPARE(corner(p), corner(b.Image1(given)) + QPointF(600, -600));
+        QCOMPARE(b.picking().picked(), -1);  // not picked up again off the given
+        click(b, p);
+        doubleClick(b, centre(b.Image1(cell)));
+        QVERIFY(liesOn(p, b.Image1(cell)) && b.picking().picked() == -1);
+    }
+
+    // A finger plays as the mouse does: it drags a piece, a tap picks one and
+    // a quick tap on a cell puts it there, two quick taps on one spot are
+    // one. A second finger during a drag moves nothing, and the first still
+    // drops its piece.
+    void fingersPlayLikeTheMouse() {
+        static QPointingDevice* const screen = QTest::createTouchDevice();
+        // Taps carry the real time: let every two taps be quick ones, however
+        // slow the machine, so only where they land tells them apart.
+        QStyleHints& hints = *QGuiApplication::styleHints();
+        const auto restore = qScopeGuard([&, interval = hints.mouseDoubleClickInterval()] {
+            hints.setMouseDoubleClickInterval(interval);
+        });
+        hints.setMouseDoubleClickInterval(60000);
+        Board& b = open(0);
+        QWindow* w = b.windowHandle();
+        auto tap = [&](QPoint at) {
+            QTest::touchEvent(w, screen).press(0, at, w);
+            QTest::touchEvent(w, screen).release(0, at, w);
+        };
+        std::vector<int> free;  // the cells without a given, and their pieces
+        for (int c = 0; c < cells(b); ++c)
+            if (!isGiven(b, c)) free.push_back(c);
+        const int dragged = solutionPiece(b, free[0]), tapped = solutionPiece(b, free[1]);
+        QTest::touchEvent(w, screen).press(0, centre(b.Image2(dragged)), w);
+        QTest::touchEvent(w, screen).move(0, centre(b.Image1(free[0])), w);
+        QTest::touchEvent(w, screen).release(0, centre(b.Image1(free[0])), w);
+        QVERIFY(liesOn(b.Image2(dragged), b.Image1(free[0])));
+        // The mouse last clicked the cell (empty: nothing happens), as it may
+        // on a laptop with a touch screen.
+        click(b, b.Image1(free[1]));
+        tap(centre(b.Image2(tapped)));
+        QCOMPARE(b.picking().picked(), tapped);
+        tap(centre(b.Image1(free[1])));
+        QVERIFY(liesOn(b.Image2(tapped), b.Image1(free[1])));
+        QCOMPARE(takeSounds(), Sounds(3, kClick1[0]));
+        tap(centre(b.Label3(SwitchPanel)));
+        tap(centre(b.Label3(SwitchPanel)));
+        QVERIFY(b.Image4(0).Visible());
+
+        const int first = solutionPiece(b, free[2]), other = solutionPiece(b, free[3]);
+        const QPoint from = centre(b.Image2(first)), to = centre(b.Image1(free[2]));
+        const QPointF otherHome = corner(b.Image2(other));
+        QTest::touchEvent(w, screen).press(0, from, w);
+        QTest::touchEvent(w, screen).move(0, from + QPoint(40, 40), w);
+        QTest::touchEvent(w, screen)
+            .move(0, from + QPoint(40, 40), w)
+            .press(1, centre(b.Image2(other)), w);
+        QTest::touchEvent(w, screen).move(0, to, w).move(1, to + QPoint(0, 200), w);
+        QTest::touchEvent(w, screen).release(0, to, w).move(1, to + QPoint(0, 210), w);
+        QTest::touchEvent(w, screen).move(1, to + QPoint(0, 250), w);
+        QTest::touchEvent(w, screen).release(1, to + QPoint(0, 250), w);
+        QVERIFY(liesOn(b.Image2(first), b.Image1(free[2])));
+        QCOMPARE(corner(b.Image2(other)), otherHome);
     }
 
     // A whole 4x4 puzzle from the keyboard: the ring walks the tray, Enter

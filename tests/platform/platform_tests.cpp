@@ -40,6 +40,13 @@ class Probe : public Form {
     Label* caption;
 };
 
+// A click, then at once the second press of a double-click, held.
+void doubleClickHeld(QWindow* window, QPoint at) {
+    QTest::mouseClick(window, Qt::LeftButton, {}, at);
+    QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval;
+    QTest::mousePress(window, Qt::LeftButton, {}, at);
+}
+
 void writeFile(const QString& path, const QByteArray& bytes) {
     QFile f(path);
     QVERIFY(f.open(QIODevice::WriteOnly));
@@ -229,6 +236,49 @@ class PlatformTests : public QObject {
         QCOMPARE(selectedA, 2);
         QCOMPARE(selectedB, 1);
         QVERIFY(!b.Value());
+    }
+
+    // A double-click is one click: one Click of a label, one press and one
+    // release of a picture (the screens' tests try the rest). Held, its
+    // second press drags a picture from where it was pressed, once it has
+    // gone further than a shaking hand does; a label never hears of it.
+    void aDoubleClickIsOneClick() {
+        QWidget window;
+        window.resize(200, 40);
+        Label command(&window);
+        PictureBox piece(&window);
+        command.setBounds(0, 0, 1500, 600);
+        piece.setBounds(1500, 0, 1500, 600);
+        int clicks = 0;
+        QStringList seen;  // the picture's presses, drags and releases
+        command.on.click = [&] { ++clicks; };
+        piece.on.mouseDown = [&](int, int, float x, float y) {
+            seen << QString("D%1,%2").arg(x).arg(y);
+        };
+        piece.on.mouseMove = [&](int b, int, float, float) {
+            if (b) seen << "M";
+        };
+        piece.on.mouseUp = [&](int, int, float, float) { seen << "U"; };
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QWindow* w = window.windowHandle();
+        const QPoint onCommand(50, 20), onPiece(150, 20);
+        QTest::mouseDClick(w, Qt::LeftButton, {}, onCommand);
+        QTest::mouseDClick(w, Qt::LeftButton, {}, onPiece);
+        QCOMPARE(clicks, 1);
+        QCOMPARE(seen, (QStringList{"D750,300", "U"}));
+
+        seen.clear();
+        doubleClickHeld(w, onPiece);
+        QTest::mouseMove(w, onPiece + QPoint(3, 2));  // a shaking hand drags nothing
+        QCOMPARE(seen, (QStringList{"D750,300", "U"}));
+        QTest::mouseMove(w, onPiece + QPoint(30, 2));
+        QTest::mouseRelease(w, Qt::LeftButton, {}, onPiece + QPoint(30, 2));
+        QCOMPARE(seen, (QStringList{"D750,300", "U", "D750,300", "M", "U"}));
+        doubleClickHeld(w, onCommand);
+        QTest::mouseMove(w, onCommand + QPoint(30, 0));
+        QTest::mouseRelease(w, Qt::LeftButton, {}, onCommand + QPoint(30, 0));
+        QCOMPARE(clicks, 2);
     }
 
     // The overlay's border makes it as wide as the full-size screen; window

@@ -81,12 +81,21 @@ inline QByteArray highscoreWithOneEntry() {
 }
 
 // A player's left click on a control of a shown screen: in its middle, or on
-// the indicator at the left of a check box or option button.
-inline void click(QWidget& control, bool onIndicator = false) {
+// the indicator at the left of a check box or option button; or two at once,
+// a double-click.
+inline void click(QWidget& control, bool onIndicator = false, bool twice = false) {
     QWindow* window = control.window()->windowHandle();
     QVERIFY2(window && control.window()->isVisible(), "clicks need a shown screen");
     const QPoint at = onIndicator ? QPoint(8, control.height() / 2) : control.rect().center();
-    QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, control.mapTo(control.window(), at));
+    const QPoint inWindow = control.mapTo(control.window(), at);
+    if (twice)
+        QTest::mouseDClick(window, Qt::LeftButton, Qt::NoModifier, inWindow);
+    else
+        QTest::mouseClick(window, Qt::LeftButton, Qt::NoModifier, inWindow);
+}
+
+inline void doubleClick(QWidget& control, bool onIndicator = false) {
+    click(control, onIndicator, true);
 }
 
 }  // namespace shell_test
