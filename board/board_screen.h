@@ -3,6 +3,7 @@
 // "jigsaw6x6"), laid out from its BoardLayout. The screen only shows the game
 // and forwards events; every rule of play lives in engine::Game, which reaches
 // the controls through the BoardView operations below.
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -124,7 +125,13 @@ class Board : public platform::Form, public engine::BoardView {
     std::vector<int> keyboardCommands() const;
     std::optional<QRect> ringTarget() const;
     void showMarks();
-    void describeControls();  // names for assistive technology (accessible_board.cpp)
+    // For assistive technology (accessible_board.cpp): names, decoration,
+    // and the ring as the focus.
+    void describeControls();
+    QString spokenPicture(int piece) const;
+    std::function<bool()> ringOn(const QWidget* control) const;
+    QWidget* ringControl() const;
+    void announceRing();
     static engine::RingLayout ringLayout(const BoardLayout& layout);
     static constexpr int kThumbnail = 100;
 
@@ -135,6 +142,8 @@ class Board : public platform::Form, public engine::BoardView {
     engine::FocusRing ring_;
     Mark* pickMark_ = nullptr;
     Mark* ringMark_ = nullptr;
+    QWidget* announced_ = nullptr;  // what the ring last stood on, as told to a screen reader
+    QString announcedName_;
 };
 
 }  // namespace board

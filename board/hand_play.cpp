@@ -202,6 +202,7 @@ void Board::showMarks() {
     pickMark_->showAround(piece == Picking::kNone ? std::nullopt
                                                   : std::optional<QRect>(Image2(piece).geometry()));
     ringMark_->showAround(ringTarget());
+    announceRing();
 }
 
 std::optional<QRect> Board::pickMarked() const {

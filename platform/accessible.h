@@ -15,9 +15,27 @@ struct AccessibleText {
     std::function<QString()> name;
     std::function<QString()> description;
     std::function<void()> press;  // the default action of a button, if any
+    // For controls the game's own keyboard ring visits (Qt's focus never
+    // does): whether the ring stands on the control now.
+    std::function<bool()> ringOn;
 };
 
 void setAccessibleText(QWidget& control, AccessibleText text);
+
+// A picture that only decorates its screen (a logo, a mascot, a marker the
+// names already tell of): assistive technology never hears of it.
+void setDecorative(QWidget& control);
+bool isDecorative(const QObject* control);
+
+// Tells assistive technology that the game's keyboard ring now stands on the
+// control, as if it had taken the focus; nothing for a control the player
+// cannot reach.
+void announceFocus(QWidget& control);
+// Tells assistive technology that what the control says has changed.
+void announceNameChange(QWidget& control);
+// Sees every announcement above, whether assistive technology listens or not
+// (tests listen here).
+void setAnnouncementObserver(std::function<void(QAccessible::Event, QObject*)> observer);
 
 // Whether the player can reach the control at all: shown, on a shown screen,
 // and enabled. Nothing else may press or focus it.
