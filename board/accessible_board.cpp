@@ -74,8 +74,8 @@ void Board::describeControls() {
         auto description = [this, n, c] {
             return QString(game_.given[c % n][c / n] == 1 ? text::kGivenCell : text::kCell);
         };
-        platform::setAccessibleText(cell, {QAccessible::Cell, name, description,
-                                           [this, c] { chooseCell(c); }, ringOn(&cell)});
+        platform::setAccessibleText(
+            cell, {QAccessible::Cell, name, description, [this, c] { chooseCell(c); }, true});
     });
 
     // Copies of a picture lie side by side in the tray, so each says which
@@ -100,8 +100,7 @@ void Board::describeControls() {
                 if (samePlace(Image2(k), Image1(c))) return chooseCell(c);
             }
         };
-        platform::setAccessibleText(piece,
-                                    {QAccessible::Graphic, name, where, press, ringOn(&piece)});
+        platform::setAccessibleText(piece, {QAccessible::Graphic, name, where, press, true});
     });
 
     describeEach(Image3, [this](int slot, platform::PictureBox& place) {
@@ -112,8 +111,7 @@ void Board::describeControls() {
                                                            : spokenPicture(piece));
         };
         platform::setAccessibleText(
-            place,
-            {QAccessible::Cell, name, {}, [this, slot] { chooseSlot(slot); }, ringOn(&place)});
+            place, {QAccessible::Cell, name, {}, [this, slot] { chooseSlot(slot); }, true});
     });
 
     const auto sets = tables::catalogue(layout_.boardsize);
@@ -123,7 +121,7 @@ void Board::describeControls() {
             thumbnail,
             {QAccessible::Button, [kind = sets[i].kind] { return tables::setName(kind); },
              [] { return QString(text::kThumbnailDescription); },
-             [this, i] { runCommand(kThumbnail + i); }, ringOn(&thumbnail)});
+             [this, i] { runCommand(kThumbnail + i); }, true});
     });
 
     if (Image6) platform::setDecorative(*Image6);
@@ -133,10 +131,6 @@ void Board::describeControls() {
     platform::setDecorative(*pickMark_);
     platform::setDecorative(*ringMark_);
     setAccessibleName(QString(text::kBoardName).arg(n));
-}
-
-std::function<bool()> Board::ringOn(const QWidget* control) const {
-    return [this, control] { return ringControl() == control; };
 }
 
 // The control the ring stands on as a screen reader should hear it: in the
@@ -167,15 +161,12 @@ QWidget* Board::ringControl() const {
 // has the new name said.
 void Board::announceRing() {
     QWidget* control = ringControl();
-    if (!control) {
-        announced_ = nullptr;
-        return;
-    }
-    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(control);
+    QAccessibleInterface* spoken =
+        control ? QAccessible::queryAccessibleInterface(control) : nullptr;
     const QString name = spoken ? spoken->text(QAccessible::Name) : QString();
     if (control != announced_)
-        platform::announceFocus(*control);
-    else if (name != announcedName_)
+        platform::announceFocus(control);
+    else if (control && name != announcedName_)
         platform::announceNameChange(*control);
     announced_ = control;
     announcedName_ = name;

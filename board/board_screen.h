@@ -3,7 +3,6 @@
 // "jigsaw6x6"), laid out from its BoardLayout. The screen only shows the game
 // and forwards events; every rule of play lives in engine::Game, which reaches
 // the controls through the BoardView operations below.
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -129,7 +128,6 @@ class Board : public platform::Form, public engine::BoardView {
     // and the ring as the focus.
     void describeControls();
     QString spokenPicture(int piece) const;
-    std::function<bool()> ringOn(const QWidget* control) const;
     QWidget* ringControl() const;
     void announceRing();
     static engine::RingLayout ringLayout(const BoardLayout& layout);

@@ -1,12 +1,19 @@
 #include "platform/accessible.h"
 
 #include <QAccessibleWidget>
+#include <QPointer>
 #include <map>
 
 namespace platform {
 namespace {
 
 constexpr char kDecorative[] = "pimbaloDecorative";
+
+// Where the game's keyboard ring stands, as announced.
+QPointer<QWidget>& ringFocus() {
+    static QPointer<QWidget> focus;
+    return focus;
+}
 
 std::map<const QObject*, AccessibleText>& described() {
     static std::map<const QObject*, AccessibleText> texts;
@@ -53,10 +60,8 @@ class DescribedControl : public ShownControl {
     // cannot reach can have neither.
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
-        if (text_.ringOn) {
-            state.focusable = takesInput(*widget());
-            state.focused = state.focusable && text_.ringOn();
-        }
+        if (text_.ringVisits) state.focusable = takesInput(*widget());
+        if (widget() == ringFocus()) state.focused = takesInput(*widget());
         return state;
     }
     // A hidden or disabled command is not there for the player: it cannot be
@@ -145,8 +150,9 @@ bool isDecorative(const QObject* control) {
     return control && control->property(kDecorative).toBool();
 }
 
-void announceFocus(QWidget& control) {
-    if (takesInput(control)) announce(control, QAccessible::Focus);
+void announceFocus(QWidget* control) {
+    ringFocus() = control && takesInput(*control) ? control : nullptr;
+    if (ringFocus()) announce(*control, QAccessible::Focus);
 }
 
 void announceNameChange(QWidget& control) {

@@ -15,9 +15,9 @@ struct AccessibleText {
     std::function<QString()> name;
     std::function<QString()> description;
     std::function<void()> press;  // the default action of a button, if any
-    // For controls the game's own keyboard ring visits (Qt's focus never
-    // does): whether the ring stands on the control now.
-    std::function<bool()> ringOn;
+    // The game's own keyboard ring can stand on the control (Qt's focus
+    // never does): it can take the focus announceFocus gives.
+    bool ringVisits = false;
 };
 
 void setAccessibleText(QWidget& control, AccessibleText text);
@@ -28,9 +28,9 @@ void setDecorative(QWidget& control);
 bool isDecorative(const QObject* control);
 
 // Tells assistive technology that the game's keyboard ring now stands on the
-// control, as if it had taken the focus; nothing for a control the player
-// cannot reach.
-void announceFocus(QWidget& control);
+// control, which has the focus from now on (nullptr: the ring stands on
+// nothing). A control the player cannot reach takes no focus.
+void announceFocus(QWidget* control);
 // Tells assistive technology that what the control says has changed.
 void announceNameChange(QWidget& control);
 // Sees every announcement above, whether assistive technology listens or not

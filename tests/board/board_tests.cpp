@@ -567,7 +567,6 @@ class BoardTests : public QObject {
             key(Qt::Key_Tab, Qt::ShiftModifier);
             QCOMPARE(focused(), &b.Image3(piece));
         }
-        platform::setAnnouncementObserver({});
         QVERIFY(b.Timer2.Enabled());
         b.Timer2.tick();
         QCOMPARE(b.Label7->Caption(), std::string("Correct in 1 seconds!!!"));
@@ -594,6 +593,9 @@ class BoardTests : public QObject {
         QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Label3(ShowSolution).geometry()));
         key(Qt::Key_Down);
         QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Label3(NewPuzzle).geometry()));
+        QCOMPARE(focused(), &b.Label3(NewPuzzle));
+        QVERIFY(QAccessible::queryAccessibleInterface(&b.Label3(NewPuzzle))->state().focused);
+        platform::setAnnouncementObserver({});
         key(Qt::Key_Up);
         takeSounds();
         key(Qt::Key_Enter);
