@@ -7,8 +7,8 @@ end-to-end build, whose state hook writes e2e_state.txt) already starting in
 the game folder. It plays through the screens to each board in turn and
 checks what a screen reader gets there:
 
-  - every object on the board has a name, and nothing else is there: no
-    unnamed picture, no decoration;
+  - every object on the board (and on the options screen) has a name, and
+    nothing else is there: no unnamed picture, no decoration;
   - each tray piece, tray place, grid cell and picture-set thumbnail is
     there and named, the pieces and thumbnails each differently;
   - the keyboard's ring is the focus: each key that moves it moves the
@@ -189,6 +189,19 @@ def check_tree(window, n, sets):
     return cells
 
 
+def check_options_screen():
+    """The screen the boards are chosen on shows no decoration either."""
+    for app in pyatspi.Registry.getDesktop(0):
+        for window in app or []:
+            if window is None or not any(c is not None and c.name == "Board Size" for c in window):
+                continue
+            for _, obj in descendants(window):
+                if not obj.name:
+                    fail("options screen: an unnamed %s" % obj.getRoleName())
+            return
+    fail("no options screen found")
+
+
 def check_ring(window_name, n):
     """Keys move the ring; the reader's focus must follow, key by key."""
     window = window_id(window_name)
@@ -252,6 +265,8 @@ boards = ((4, "jigsaw", 8, 2295, 1440), (5, "jigsaw5x5", 8, 3180, 2760),
           (6, "jigsaw6x6", 6, 4065, 4080))
 for n, screen, sets, size_top, level_left in boards:
     options = wait_screen("Startplay2")
+    if n == 4:
+        check_options_screen()
     click(options, 1200, size_top, 1815, 840)
     click(options, level_left, 6360, 975, 855)
     wait_screen(screen)
