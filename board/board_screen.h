@@ -124,6 +124,7 @@ class Board : public platform::Form, public engine::BoardView {
     std::vector<int> keyboardCommands() const;
     std::optional<QRect> ringTarget() const;
     void showMarks();
+    void followRingWithFocus();
     void describeControls();  // names for assistive technology (accessible_board.cpp)
     static engine::RingLayout ringLayout(const BoardLayout& layout);
     static constexpr int kThumbnail = 100;

@@ -14,7 +14,8 @@ struct AccessibleText {
     QAccessible::Role role = QAccessible::StaticText;
     std::function<QString()> name;
     std::function<QString()> description;
-    std::function<void()> press;  // the default action of a button, if any
+    std::function<void()> press;    // the default action of a button, if any
+    std::function<bool()> checked;  // for check boxes and option buttons
 };
 
 void setAccessibleText(QWidget& control, AccessibleText text);

@@ -544,24 +544,35 @@ class BoardTests : public QObject {
 
         const auto before = b.ring().zone();
         const int slot = b.ring().slot();
-        for (Qt::Key k : {Qt::Key_Z, Qt::Key_O, Qt::Key_E, Qt::Key_Return, Qt::Key_Escape,
-                          Qt::Key_Space, Qt::Key_Left})
+        for (Qt::Key k :
+             {Qt::Key_Z, Qt::Key_O, Qt::Key_E, Qt::Key_Escape, Qt::Key_Space, Qt::Key_Left})
             QTest::keyClick(QGuiApplication::focusWindow(), k);
         key(Qt::Key_Tab);  // even sent to the board's own window
         QCOMPARE(scores()->Text1(2).text(), QString("zoe "));
         QVERIFY(scores()->isVisible() && b.ring().zone() == before && b.ring().slot() == slot);
+        // Enter is "Continue": the name kept, the board untouched.
+        QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Return);
+        QVERIFY(!scores() && b.ring().zone() == before && b.ring().slot() == slot);
+        QCOMPARE(m.bestname[0][2][0], std::string("zoe "));
         QCOMPARE(b.Label7->Caption(), std::string("Correct in 1 seconds!!!"));
 
-        // Back on the board, Tab reaches the commands and Enter runs one.
+        // Back on the board, Tab reaches the commands and Enter runs one. The
+        // command the ring stands on holds the focus, for screen readers.
         click(b, b.Label3(StartAgain));
-        QVERIFY(!scores());
         b.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&b));
         key(Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), nullptr);
         key(Qt::Key_Tab);
         QCOMPARE(b.ring().zone(), engine::Zone::Commands);
         QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Label3(ShowSolution).geometry()));
+        QCOMPARE(QApplication::focusWidget(), &b.Label3(ShowSolution));
         key(Qt::Key_Down);
         QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Label3(NewPuzzle).geometry()));
+        QCOMPARE(QApplication::focusWidget(), &b.Label3(NewPuzzle));
+        key(Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), nullptr);  // on the tray the board takes the keys
+        key(Qt::Key_Tab, Qt::ShiftModifier);
         key(Qt::Key_Up);
         takeSounds();
         key(Qt::Key_Enter);
