@@ -179,11 +179,21 @@ void Label::focusOutEvent(QFocusEvent* e) {
     update();
 }
 
+namespace {
+
+// The style's own focus frame shows only once Tab was pressed in the window;
+// the game's band shows from the moment a screen opens.
+void paintFocus(QWidget& control, int inset) {
+    if (!control.hasFocus()) return;
+    QPainter painter(&control);
+    drawFocusBand(painter, control.rect().adjusted(inset, inset, -inset, -inset));
+}
+
+}  // namespace
+
 void Label::paintEvent(QPaintEvent* e) {
     QLabel::paintEvent(e);
-    if (!command_ || !hasFocus() || !(focusPolicy() & Qt::TabFocus)) return;
-    QPainter painter(this);
-    drawFocusBand(painter, rect().adjusted(kFocusInset, kFocusInset, -kFocusInset, -kFocusInset));
+    if (command_ && (focusPolicy() & Qt::TabFocus)) paintFocus(*this, kFocusInset);
 }
 
 void Label::setForeColor(const QColor& c) {
@@ -246,6 +256,11 @@ void OptionButton::keyPressEvent(QKeyEvent* e) {
     QRadioButton::keyPressEvent(e);
 }
 
+void OptionButton::paintEvent(QPaintEvent* e) {
+    QRadioButton::paintEvent(e);
+    paintFocus(*this, 0);
+}
+
 CheckBox::CheckBox(QWidget* parent) : Placed<QCheckBox>(parent) {
     QObject::connect(this, &QCheckBox::toggled, [this](bool) {
         if (onChange) onChange();
@@ -260,6 +275,11 @@ void CheckBox::keyPressEvent(QKeyEvent* e) {
         return;
     }
     QCheckBox::keyPressEvent(e);
+}
+
+void CheckBox::paintEvent(QPaintEvent* e) {
+    QCheckBox::paintEvent(e);
+    paintFocus(*this, 0);
 }
 
 void TextBox::keyPressEvent(QKeyEvent* e) {

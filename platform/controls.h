@@ -215,6 +215,7 @@ class OptionButton : public Placed<QRadioButton> {
 
   protected:
     void keyPressEvent(QKeyEvent* e) override;  // Enter selects, as Space does
+    void paintEvent(QPaintEvent* e) override;   // the focus band, as on commands
 };
 
 class CheckBox : public Placed<QCheckBox> {
@@ -228,6 +229,7 @@ class CheckBox : public Placed<QCheckBox> {
 
   protected:
     void keyPressEvent(QKeyEvent* e) override;  // Enter ticks or clears, as Space does
+    void paintEvent(QPaintEvent* e) override;   // the focus band, as on commands
 };
 
 class TextBox : public Placed<QLineEdit> {

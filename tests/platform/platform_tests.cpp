@@ -270,6 +270,7 @@ class PlatformTests : public QObject {
         QWindow* window = form.windowHandle();
         QTest::keyClick(window, Qt::Key_Space);
         QTest::keyClick(window, Qt::Key_Tab);
+        QCOMPARE(box->grab().toImage().pixelColor(0, 20), QColor(Qt::black));  // its band
         QTest::keyClick(window, Qt::Key_Return);  // ticks and clears the box too
         QCOMPARE(box->Value(), 0);
         QTest::keyClick(window, Qt::Key_Tab);
