@@ -75,7 +75,7 @@ void Board::describeControls() {
             return QString(game_.given[c % n][c / n] == 1 ? text::kGivenCell : text::kCell);
         };
         platform::setAccessibleText(
-            cell, {QAccessible::Cell, name, description, [this, c] { chooseCell(c); }, true});
+            cell, {QAccessible::Cell, name, description, [this, c] { chooseCell(c); }, {}, true});
     });
 
     // Copies of a picture lie side by side in the tray, so each says which
@@ -100,7 +100,7 @@ void Board::describeControls() {
                 if (samePlace(Image2(k), Image1(c))) return chooseCell(c);
             }
         };
-        platform::setAccessibleText(piece, {QAccessible::Graphic, name, where, press, true});
+        platform::setAccessibleText(piece, {QAccessible::Graphic, name, where, press, {}, true});
     });
 
     describeEach(Image3, [this](int slot, platform::PictureBox& place) {
@@ -111,17 +111,19 @@ void Board::describeControls() {
                                                            : spokenPicture(piece));
         };
         platform::setAccessibleText(
-            place, {QAccessible::Cell, name, {}, [this, slot] { chooseSlot(slot); }, true});
+            place, {QAccessible::Cell, name, {}, [this, slot] { chooseSlot(slot); }, {}, true});
     });
 
     const auto sets = tables::catalogue(layout_.boardsize);
     Image4.forEach([this, &sets](int i, platform::PictureBox& thumbnail) {
         if (i >= sets.size()) return platform::setDecorative(thumbnail);  // the 4x4 logo
-        platform::setAccessibleText(
-            thumbnail,
-            {QAccessible::Button, [kind = sets[i].kind] { return tables::setName(kind); },
-             [] { return QString(text::kThumbnailDescription); },
-             [this, i] { runCommand(kThumbnail + i); }, true});
+        platform::setAccessibleText(thumbnail,
+                                    {QAccessible::Button,
+                                     [kind = sets[i].kind] { return tables::setName(kind); },
+                                     [] { return QString(text::kThumbnailDescription); },
+                                     [this, i] { runCommand(kThumbnail + i); },
+                                     {},
+                                     true});
     });
 
     if (Image6) platform::setDecorative(*Image6);
@@ -135,7 +137,7 @@ void Board::describeControls() {
 
 // The control the ring stands on as a screen reader should hear it: in the
 // tray the piece lying in the slot, or the empty slot; in the grid the cell,
-// which names its piece; among the commands the command or thumbnail.
+// which names its piece; among the commands a thumbnail.
 QWidget* Board::ringControl() const {
     if (!ring_.shown()) return nullptr;
     switch (ring_.zone()) {
@@ -150,10 +152,10 @@ QWidget* Board::ringControl() const {
         case engine::Zone::Commands:
             break;
     }
+    // A command takes Qt's own focus from the ring (hand_play.cpp), which
+    // screen readers hear without us.
     const int command = ring_.command(keyboardCommands());
-    if (command < 0) return nullptr;
-    if (command >= kThumbnail) return &Image4(command - kThumbnail);
-    return &Label3(command);
+    return command >= kThumbnail ? &Image4(command - kThumbnail) : nullptr;
 }
 
 // After every key and choice: a ring that moved is a focus that moved; a ring

@@ -124,6 +124,7 @@ class Board : public platform::Form, public engine::BoardView {
     std::vector<int> keyboardCommands() const;
     std::optional<QRect> ringTarget() const;
     void showMarks();
+    void followRingWithFocus();
     // For assistive technology (accessible_board.cpp): names, decoration,
     // and the ring as the focus.
     void describeControls();

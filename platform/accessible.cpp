@@ -62,13 +62,20 @@ class DescribedControl : public ShownControl {
         QAccessible::State state = QAccessibleWidget::state();
         if (text_.ringVisits) state.focusable = takesInput(*widget());
         if (widget() == ringFocus()) state.focused = takesInput(*widget());
+        if (text_.checked) {
+            state.checkable = true;
+            state.checked = text_.checked();
+        }
         return state;
     }
     // A hidden or disabled command is not there for the player: it cannot be
-    // pressed or focused this way either.
+    // pressed or focused this way either. Pressing comes first, as screen
+    // readers run the first action.
     QStringList actionNames() const override {
         if (!takesInput(*widget())) return {};
-        return text_.press ? QStringList{pressAction()} : QAccessibleWidget::actionNames();
+        QStringList names = QAccessibleWidget::actionNames();
+        if (text_.press) names.prepend(pressAction());
+        return names;
     }
     void doAction(const QString& action) override {
         if (!takesInput(*widget())) return;

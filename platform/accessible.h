@@ -14,7 +14,8 @@ struct AccessibleText {
     QAccessible::Role role = QAccessible::StaticText;
     std::function<QString()> name;
     std::function<QString()> description;
-    std::function<void()> press;  // the default action of a button, if any
+    std::function<void()> press;    // the default action of a button, if any
+    std::function<bool()> checked;  // for check boxes and option buttons
     // The game's own keyboard ring can stand on the control (Qt's focus
     // never does): it can take the focus announceFocus gives.
     bool ringVisits = false;

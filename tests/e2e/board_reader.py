@@ -9,8 +9,8 @@ name, with no decoration; that each tray piece, tray place, grid cell and
 thumbnail is there, the pieces and thumbnails each named differently; that
 each key that moves the ring moves the focus, to an object that says it is
 focused; and that the clock's ticks and the verdict reach the reader. Each
-board's tree goes to tree-<size>.txt (role, name, description, states and
-actions, indented by depth), every event heard to events.txt.
+board's tree goes to tree-<size>.txt (role, name, states, actions and
+description, indented by depth), every event heard to events.txt.
 """
 import os
 import re
@@ -20,6 +20,8 @@ import time
 
 import pyatspi
 from gi.repository import GLib
+
+from screen_reader import application, describe, walk
 
 work, out = sys.argv[1], sys.argv[2]
 failures = []
@@ -78,39 +80,25 @@ def click(origin, left, top, width, height):
     pump(0.4)
 
 
-def descendants(obj, depth=0):
-    for child in obj:
-        if child is not None:
-            yield depth, child
-            yield from descendants(child, depth + 1)
+def descendants(window):
+    """Everything below the window, shown or not."""
+    return [(depth, obj) for depth, obj in walk(window, showing_only=False) if depth > 0]
 
 
 def window_with(test):
     for _ in range(40):
-        for app in pyatspi.Registry.getDesktop(0):
-            for window in app or []:
-                if window is not None and test(window):
-                    return window
+        for window in application() or []:
+            if window is not None and test(window):
+                return window
         pump(0.5)
     fail("no such window")
     sys.exit(1)
 
 
-def actions(obj):
-    try:
-        action = obj.queryAction()
-        return [action.getName(i) for i in range(action.nActions)]
-    except NotImplementedError:
-        return []
-
-
 def dump(window, path):
     with open(path, "w") as f:
-        for depth, obj in [(-1, window)] + list(descendants(window)):
-            f.write("%s%s %r description=%r states=[%s] actions=[%s]\n" % (
-                "  " * (depth + 1), obj.getRoleName(), obj.name, obj.description,
-                " ".join(sorted(s.value_nick for s in obj.getState().getStates())),
-                " ".join(actions(obj))))
+        for depth, obj in walk(window, showing_only=False):
+            f.write("  " * depth + describe(obj) + "\t" + repr(obj.description) + "\n")
 
 
 def check_all_named(window, what):

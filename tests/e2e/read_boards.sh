@@ -1,9 +1,10 @@
 #!/bin/bash
 # The three boards as a screen reader finds them: the game runs in a virtual
 # X server under openbox, with the accessibility bus of a desktop session,
-# and board_reader.py reads it through AT-SPI as a screen reader does.
+# and board_reader.py reads it through AT-SPI as a screen reader does (with
+# the helpers of screen_reader.py).
 #
-#   screen_reader.sh <pimbalo_e2e> <game folder> <output folder>
+#   read_boards.sh <pimbalo_e2e> <game folder> <output folder>
 #
 # The output folder gets each board's tree as text (role, name, states and
 # actions of every object) and the game's log. Run by root (as CI is), the
@@ -32,12 +33,12 @@ if [[ ${1:-} != --inside ]]; then
     trap 'rm -rf "$stage"' EXIT
     cp "$game_exe" "$stage/pimbalo"
     cp "$(dirname "$game_exe")"/pimbalo-sound*.so "$stage/" 2>/dev/null || true
-    cp "$here/screen_reader.sh" "$here/board_reader.py" "$here/free_display.sh" "$stage/"
+    cp "$here"/{read_boards.sh,board_reader.py,screen_reader.py,free_display.sh} "$stage/"
     mkdir "$stage/out" "$stage/work"
     ln -s "$game_dir/Images" "$stage/work/Images"
     ln -s "$game_dir/wav" "$stage/work/wav"
     chmod -R a+rX "$stage"
-    inside=(dbus-run-session -- bash "$stage/screen_reader.sh" --inside "$stage")
+    inside=(dbus-run-session -- bash "$stage/read_boards.sh" --inside "$stage")
     status=0
     if [[ $(id -u) -eq 0 ]]; then
         player=pimbalo-player
