@@ -61,7 +61,9 @@ class DescribedControl : public ShownControl {
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
         if (text_.ringVisits) state.focusable = takesInput(*widget());
-        if (widget() == ringFocus()) state.focused = takesInput(*widget());
+        // As with Qt's focus, only in the window that has the keyboard.
+        if (widget() == ringFocus())
+            state.focused = takesInput(*widget()) && widget()->isActiveWindow();
         if (text_.checked) {
             state.checkable = true;
             state.checked = text_.checked();
