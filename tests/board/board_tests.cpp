@@ -742,6 +742,12 @@ class BoardTests : public QObject {
         QTest::keyClick(b.windowHandle(), Qt::Key_Left);
         QTest::keyClick(b.windowHandle(), Qt::Key_Right);
         QCOMPARE(focused(), &b.Image2(hidden));
+        // Among the commands, a thumbnail the ring stands on has the focus.
+        click(b, b.Label3(SwitchPanel));
+        for (Qt::Key k : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down})
+            QTest::keyClick(b.windowHandle(), k);
+        QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Image4(0).geometry()));
+        QCOMPARE(focused(), &b.Image4(0));
         platform::setAnnouncementObserver({});
     }
     // The clock ticks each second and the check comes once, a second after
