@@ -69,7 +69,7 @@ def wait_screen(name, limit=20, again=None):
             again()
             retry = time.time() + 5
         pump(0.5)
-    fail(name + " was not shown")
+    fail("%s was not shown; the game reported: %s" % (name, lines))
     sys.exit(1)
 
 
