@@ -43,10 +43,11 @@ QString Board::spokenPicture(int piece) const {
 
 void Board::describeControls() {
     Label3.forEach([this](int i, platform::Label& command) {
-        platform::setAccessibleText(
-            command,
-            {QAccessible::Button, [&command] { return captionOf(command); },
-             [] { return QString(text::kCommandDescription); }, [this, i] { runCommand(i); }});
+        platform::setAccessibleText(command, {QAccessible::Button,
+                                              [&command] { return captionOf(command); },
+                                              [] { return QString(text::kCommandDescription); },
+                                              [this, i] { runCommand(i); },
+                                              {}});
     });
     // The verdict is a notification: screen readers say it as it shows.
     const std::tuple<platform::Label*, const char*, QAccessible::Role> readOuts[] = {
@@ -58,6 +59,7 @@ void Board::describeControls() {
         platform::setAccessibleText(*label, {role,
                                              [label = label] { return captionOf(*label); },
                                              [meaning = meaning] { return QString(meaning); },
+                                             {},
                                              {}});
     }
 
