@@ -166,6 +166,8 @@ void Board::wireEvents() {
             Label3_MouseMove(i, b, s, x, y);
         };
         command.on.click = [this, i] { runCommand(i); };
+        // The ring walks the commands (hand_play.cpp) and hands them the focus.
+        command.makeCommand(platform::CommandFocus::GivenByScreen);
     };
     Timer1.onTimer = [this] { Timer1_Timer(); };
     Timer2.onTimer = [this] { Timer2_Timer(); };

@@ -124,7 +124,13 @@ class Board : public platform::Form, public engine::BoardView {
     std::vector<int> keyboardCommands() const;
     std::optional<QRect> ringTarget() const;
     void showMarks();
-    void describeControls();  // names for assistive technology (accessible_board.cpp)
+    void followRingWithFocus();
+    // For assistive technology (accessible_board.cpp): names, decoration,
+    // and the ring as the focus.
+    void describeControls();
+    QString spokenPicture(int piece) const;
+    QWidget* ringControl() const;
+    void announceRing();
     static engine::RingLayout ringLayout(const BoardLayout& layout);
     static constexpr int kThumbnail = 100;
 
@@ -135,6 +141,8 @@ class Board : public platform::Form, public engine::BoardView {
     engine::FocusRing ring_;
     Mark* pickMark_ = nullptr;
     Mark* ringMark_ = nullptr;
+    QWidget* announced_ = nullptr;  // what the ring last stood on, as told to a screen reader
+    QString announcedName_;
 };
 
 }  // namespace board

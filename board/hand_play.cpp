@@ -202,6 +202,24 @@ void Board::showMarks() {
     pickMark_->showAround(piece == Picking::kNone ? std::nullopt
                                                   : std::optional<QRect>(Image2(piece).geometry()));
     ringMark_->showAround(ringTarget());
+    followRingWithFocus();
+    announceRing();
+}
+
+// Screen readers follow the focus: while the ring stands on a command, that
+// command holds it (and Space or Enter reach it first, which run it as the
+// ring would); anywhere else the board itself takes the keys.
+void Board::followRingWithFocus() {
+    platform::Label* command = nullptr;
+    if (ring_.shown() && ring_.zone() == Zone::Commands) {
+        const int c = ring_.command(keyboardCommands());
+        if (c >= 0 && c < kThumbnail) command = &Label3(c);
+    }
+    QWidget* now = focusWidget();
+    if (command && now != command)
+        command->setFocus(Qt::TabFocusReason);
+    else if (!command && now && now->parentWidget() == this && dynamic_cast<platform::Label*>(now))
+        now->clearFocus();
 }
 
 std::optional<QRect> Board::pickMarked() const {

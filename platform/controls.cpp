@@ -1,11 +1,13 @@
 #include "platform/controls.h"
 
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QSet>
 #include <QValidator>
 #include <algorithm>
 
+#include "platform/accessible.h"
 #include "platform/files.h"
 
 namespace platform {
@@ -140,6 +142,82 @@ void Label::setLook(const LabelLook& look) {
     setBackColor(look.backColor);
 }
 
+namespace {
+
+// The keys that run a focused command or flip a focused box, as a click would.
+bool isPressKey(const QKeyEvent& e) {
+    const int key = e.key();
+    return key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+bool plainKey(const QKeyEvent& e) {
+    return !(e.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
+
+// Just inside a framed label's one-pixel border: the band's lines, dark,
+// light, light, dark, from the outside in.
+constexpr int kFocusInset = 1;
+constexpr int kFocusBand = 4;
+
+}  // namespace
+
+void drawFocusBand(QPainter& painter, const QRect& outer) {
+    for (int i = 0; i < kFocusBand; ++i) {
+        painter.setPen(i == 0 || i == kFocusBand - 1 ? Qt::black : Qt::white);
+        painter.drawRect(outer.adjusted(i, i, -i - 1, -i - 1));
+    }
+}
+
+void Label::makeCommand(CommandFocus focus) {
+    command_ = true;
+    // A screen that hands the focus over keeps Qt from giving it by Tab or
+    // when the window comes up; it can still set it.
+    setFocusPolicy(focus == CommandFocus::ByTab ? Qt::TabFocus : Qt::NoFocus);
+    setAccessibleText(*this, {QAccessible::Button,
+                              [this] { return text(); },
+                              {},
+                              [this] {
+                                  if (on.click) on.click();
+                              },
+                              {}});
+}
+
+void Label::keyPressEvent(QKeyEvent* e) {
+    if (command_ && plainKey(*e) && isPressKey(*e) && !e->isAutoRepeat()) {
+        e->accept();
+        if (on.click) on.click();  // may unload the screen: nothing after this
+        return;
+    }
+    QLabel::keyPressEvent(e);
+}
+
+void Label::focusInEvent(QFocusEvent* e) {
+    QLabel::focusInEvent(e);
+    update();
+}
+
+void Label::focusOutEvent(QFocusEvent* e) {
+    QLabel::focusOutEvent(e);
+    update();
+}
+
+namespace {
+
+// The style's own focus frame shows only once Tab was pressed in the window;
+// the game's band shows from the moment a screen opens.
+void paintFocus(QWidget& control, int inset) {
+    if (!control.hasFocus()) return;
+    QPainter painter(&control);
+    drawFocusBand(painter, control.rect().adjusted(inset, inset, -inset, -inset));
+}
+
+}  // namespace
+
+void Label::paintEvent(QPaintEvent* e) {
+    QLabel::paintEvent(e);
+    if (command_ && (focusPolicy() & Qt::TabFocus)) paintFocus(*this, kFocusInset);
+}
+
 void Label::setForeColor(const QColor& c) {
     look_.foreColor = c;
     QPalette pal = palette();
@@ -174,16 +252,61 @@ void Frame::setBackColor(const QColor& c) {
     setPalette(pal);
 }
 
+// Named by its caption and pressed like a click, and only while the player
+// can reach it: Qt's own buttons would let a hidden box be ticked.
+static void describeButton(QAbstractButton& button, QAccessible::Role role) {
+    setAccessibleText(button, {role,
+                               [&button] { return button.text(); },
+                               {},
+                               [&button] { button.click(); },
+                               [&button] { return button.isChecked(); }});
+}
+
 OptionButton::OptionButton(QWidget* parent) : Placed<QRadioButton>(parent) {
     QObject::connect(this, &QRadioButton::toggled, [this](bool on) {
         if (on && onSelect) onSelect();
     });
+    describeButton(*this, QAccessible::RadioButton);
+}
+
+void OptionButton::keyPressEvent(QKeyEvent* e) {
+    if (plainKey(*e) && (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter)) {
+        e->accept();
+        if (!e->isAutoRepeat()) click();
+        return;
+    }
+    QRadioButton::keyPressEvent(e);
+}
+
+void OptionButton::paintEvent(QPaintEvent* e) {
+    QRadioButton::paintEvent(e);
+    paintFocus(*this, 0);
 }
 
 CheckBox::CheckBox(QWidget* parent) : Placed<QCheckBox>(parent) {
     QObject::connect(this, &QCheckBox::toggled, [this](bool) {
         if (onChange) onChange();
     });
+    describeButton(*this, QAccessible::CheckBox);
+}
+
+void CheckBox::keyPressEvent(QKeyEvent* e) {
+    if (plainKey(*e) && (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter)) {
+        e->accept();
+        if (!e->isAutoRepeat()) click();
+        return;
+    }
+    QCheckBox::keyPressEvent(e);
+}
+
+void CheckBox::paintEvent(QPaintEvent* e) {
+    QCheckBox::paintEvent(e);
+    paintFocus(*this, 0);
+}
+
+void TextBox::keyPressEvent(QKeyEvent* e) {
+    QLineEdit::keyPressEvent(e);
+    if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) e->accept();
 }
 
 void styleText(QWidget& w, const QColor& fore, const QColor& back, const QFont& font) {

@@ -15,7 +15,9 @@
 
 #include "platform/twips.h"
 
+class QKeyEvent;
 class QMouseEvent;
+class QPainter;
 
 namespace platform {
 
@@ -156,6 +158,10 @@ struct LabelLook {
     bool wordWrap = false;
 };
 
+// How a command label gets the keyboard's focus: by Tab like any control,
+// or only when its screen hands it over (a board's ring walks its commands).
+enum class CommandFocus { ByTab, GivenByScreen };
+
 class Label : public Clickable<QLabel> {
   public:
     explicit Label(QWidget* parent) : Clickable<QLabel>(parent) {}
@@ -166,9 +172,28 @@ class Label : public Clickable<QLabel> {
     void setBackColor(const QColor& c);
     QColor BackColor() const { return look_.backColor; }
 
+    // Makes the label a command the keyboard and assistive technology can
+    // use as well as the pointer: with the focus, Space or Enter run
+    // on.click; a focus taken by Tab shows as a band just inside the label's
+    // edge, so nothing moves or changes size; screen readers see a push
+    // button named by the caption as shown, which they can press.
+    void makeCommand(CommandFocus focus = CommandFocus::ByTab);
+    bool isCommand() const { return command_; }
+
+  protected:
+    void keyPressEvent(QKeyEvent* e) override;
+    void focusInEvent(QFocusEvent* e) override;
+    void focusOutEvent(QFocusEvent* e) override;
+    void paintEvent(QPaintEvent* e) override;
+
   private:
     LabelLook look_;
+    bool command_ = false;
 };
+
+// The focus band of command labels: a light line between two dark ones, just
+// inside `outer`, so it shows on black, on the level colours and on white.
+void drawFocusBand(QPainter& painter, const QRect& outer);
 
 // A filled rectangle (the coloured regions behind a board's grid).
 class Shape : public Placed<QWidget> {
@@ -200,6 +225,10 @@ class OptionButton : public Placed<QRadioButton> {
     void setValue(bool on) { setChecked(on); }
     // Runs when the button becomes selected, by the player or by code.
     std::function<void()> onSelect;
+
+  protected:
+    void keyPressEvent(QKeyEvent* e) override;  // Enter selects, as Space does
+    void paintEvent(QPaintEvent* e) override;   // the focus band, as on commands
 };
 
 class CheckBox : public Placed<QCheckBox> {
@@ -210,6 +239,10 @@ class CheckBox : public Placed<QCheckBox> {
     // Runs on every change of the value, by the player or by code; a write
     // that leaves the value as it was does nothing.
     std::function<void()> onChange;
+
+  protected:
+    void keyPressEvent(QKeyEvent* e) override;  // Enter ticks or clears, as Space does
+    void paintEvent(QPaintEvent* e) override;   // the focus band, as on commands
 };
 
 class TextBox : public Placed<QLineEdit> {
@@ -222,6 +255,11 @@ class TextBox : public Placed<QLineEdit> {
     // mark), and the saved names are capped the same way. A key or paste
     // that would go past the limit is refused.
     void setMaxCharacters(int most);
+
+  protected:
+    // Enter is the box's own (returnPressed): it never passes on to the
+    // window, which may have closed by then and left its keys to another.
+    void keyPressEvent(QKeyEvent* e) override;
 };
 
 // Shared looks of the game's screens.

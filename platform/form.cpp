@@ -1,5 +1,6 @@
 #include "platform/form.h"
 
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -13,6 +14,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/accessible.h"
 #include "platform/controls.h"
 #include "platform/desktop.h"
 #include "platform/files.h"
@@ -192,7 +194,29 @@ void Form::Show() {
         fontsSettled_ = true;
     }
     raise();
+    focusFirstCommand();
     if (!(windowFlags() & Qt::WindowDoesNotAcceptFocus)) activateWindow();
+}
+
+void Form::setCommandOrder(const std::vector<QWidget*>& commands) {
+    commands_ = commands;
+    for (std::size_t i = 1; i < commands.size(); ++i)
+        QWidget::setTabOrder(commands[i - 1], commands[i]);
+}
+
+// Only a command Tab would stop at: of a group of option buttons, the
+// selected one.
+void Form::focusFirstCommand() {
+    const QWidget* now = focusWidget();
+    if (now && takesInput(*now)) return;
+    for (QWidget* command : commands_) {
+        const auto* button = qobject_cast<const QAbstractButton*>(command);
+        const bool otherInGroup = button && button->autoExclusive() && !button->isChecked();
+        if (takesInput(*command) && (command->focusPolicy() & Qt::TabFocus) && !otherInGroup) {
+            command->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
 }
 
 void Form::mouseMoveEvent(QMouseEvent* e) {

@@ -5,6 +5,7 @@
 // from the designed state; shown screens stack modeless, the last on top.
 #include <QWidget>
 #include <functional>
+#include <vector>
 
 #include "tables/screens.h"
 
@@ -69,6 +70,12 @@ class Form : public QWidget {
 
     void Show();  // show, on top of the others, and take the focus
 
+    // The screen's commands in reading order, the order Tab and Shift+Tab
+    // walk them (a group of option buttons is one stop, its arrows move
+    // within it). A screen shown with no command focused focuses the first
+    // one the player can reach.
+    void setCommandOrder(const std::vector<QWidget*>& commands);
+
     // The screen this one is kept above by the window manager while both are
     // shown, or nullptr. An overlay is kept above the full-size screen shown
     // last, the one it is laid over.
@@ -88,6 +95,7 @@ class Form : public QWidget {
     QSize outerSize() const;
     void placeCentred();
     void tieToOwner();
+    void focusFirstCommand();
 
     tables::Screen screen_;
     FormKind kind_;
@@ -97,6 +105,7 @@ class Form : public QWidget {
     bool fontsSettled_ = false;
     float left_ = 0, top_ = 0;  // twips as last written, so reads are exact
     std::function<Form*()> findOwner_;
+    std::vector<QWidget*> commands_;
     bool centred_ = false;
     QSize centredWithFrame_;  // the frame counted when it was last centred
 };

@@ -135,6 +135,9 @@ void Highscores::buildLayout() {
     button.framed = true;
     Label3.wire = [this](int, Label& label) { label.on.click = [this] { Label3_Click(); }; };
     Label3.add(0, makeLabel(client(), button, text::kContinue, 12960, 120, 1935, 495));
+    // The name box is the only control that takes the keyboard; "Continue"
+    // is still a button a screen reader can press.
+    Label3(0).makeCommand(platform::CommandFocus::GivenByScreen);
 
     const LabelLook heading = textLook(yellow(), 12, Qt::AlignHCenter);
     // Names and times are coloured yellow by the start-up, not by the design.
@@ -166,6 +169,8 @@ void Highscores::buildLayout() {
         box->setFont(designFont(QStringLiteral("Arial"), 12, true));
         box->setMaxCharacters(kMaxNameLength);
         box->hide();
+        // Enter ends the typing as "Continue" does, the name kept.
+        QObject::connect(box, &QLineEdit::returnPressed, this, [this] { Label3_Click(); });
         Text1.add(j, box);
     }
 

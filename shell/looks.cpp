@@ -2,6 +2,8 @@
 
 #include <QPalette>
 
+#include "platform/accessible.h"
+
 namespace shell {
 
 QColor yellow() {
@@ -45,6 +47,9 @@ platform::PictureBox* makePictureBox(QWidget* parent, float left, float top,
                                      const tables::ScreenPicture& picture) {
     auto* box = new platform::PictureBox(parent);
     box->setBounds(left, top, picture.width, picture.height);
+    // The screens' pictures (logos, mascots, the rules' examples) only
+    // decorate: every word they carry stands in a label beside them.
+    platform::setDecorative(*box);
     return box;
 }
 

@@ -24,6 +24,8 @@ Morvelrules::Morvelrules() : Form(kScreen, platform::FormKind::FullSize) {
         option.onSelect = [this, k] { showPage(k); };
     });
     Label3(0).on.click = [this] { Label3_Click(); };
+    Label3(0).makeCommand();
+    setCommandOrder({&Option1(0), &Option1(1), &Option1(2), &Label3(0)});
 }
 
 void Morvelrules::buildLayout() {

@@ -96,6 +96,19 @@ void Startplay2::wireEvents() {
         label.on.click = [] { platform::openWebPage(kPublisherPage); };
     });
     Label3(0).on.click = [this] { Label3_Click(); };
+
+    // The keyboard takes the controls as they are read: the sizes, the rules
+    // beside the last of them, the boxes, the levels, then the bottom line.
+    // The two headings also open the web page when clicked, but they read as
+    // headings, not as commands.
+    std::vector<QWidget*> order;
+    Option1.forEach([&order](int, platform::OptionButton& size) { order.push_back(&size); });
+    order.insert(order.end(), {Label6, Check2, Check1, Check3});
+    Label1.forEach([&order](int, platform::Label& level) { order.push_back(&level); });
+    order.insert(order.end(), {&Label2(12), &Label3(0)});
+    for (QWidget* control : order)
+        if (auto* command = dynamic_cast<platform::Label*>(control)) command->makeCommand();
+    setCommandOrder(order);
 }
 
 void Startplay2::Form_Load() {

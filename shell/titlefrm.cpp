@@ -39,6 +39,8 @@ Titlefrm::Titlefrm() : Form(kScreen, platform::FormKind::Fixed) {
     Label5->on.click = [this] { leaveForOptions(); };
     Label7 = makeLabel(this, 3360, 7080, 1575, 600, tables::title_text::kExit, button);
     Label7->on.click = [] { platform::screens::endProgram(); };
+    for (platform::Label* command : {Label5, Label7}) command->makeCommand();
+    setCommandOrder({Label5, Label7});
 
     Label2 = makeLabel(this, 120, 7920, 6255, 255, tables::kLegalNotice,
                        blueTextLook(platform::designFont("Arial", 9, false)));

@@ -108,10 +108,13 @@ constexpr const char* kDieNames[] = {QT_TRANSLATE_NOOP("Pictures", "die showing 
                                      QT_TRANSLATE_NOOP("Pictures", "die showing four"),
                                      QT_TRANSLATE_NOOP("Pictures", "die showing five"),
                                      QT_TRANSLATE_NOOP("Pictures", "die showing six")};
+// The faces' files carry made-up words; a child's helper hears what they show.
 constexpr const char* kFaceNames[] = {
-    QT_TRANSLATE_NOOP("Pictures", "tovi"), QT_TRANSLATE_NOOP("Pictures", "jebu"),
-    QT_TRANSLATE_NOOP("Pictures", "moustache"), QT_TRANSLATE_NOOP("Pictures", "kramble"),
-    QT_TRANSLATE_NOOP("Pictures", "wuzzet")};
+    QT_TRANSLATE_NOOP("Pictures", "happy yellow face with a curl"),
+    QT_TRANSLATE_NOOP("Pictures", "smiling green frog"),
+    QT_TRANSLATE_NOOP("Pictures", "face with a big moustache and a hat"),
+    QT_TRANSLATE_NOOP("Pictures", "grumpy purple monster with spiky hair"),
+    QT_TRANSLATE_NOOP("Pictures", "fluffy orange cat")};
 constexpr const char* kFlagNames[] = {QT_TRANSLATE_NOOP("Pictures", "flag of the United Kingdom"),
                                       QT_TRANSLATE_NOOP("Pictures", "flag of the United States"),
                                       QT_TRANSLATE_NOOP("Pictures", "flag of South Africa"),
@@ -144,6 +147,21 @@ constexpr List<const char*> kNames[] = {
 };
 static_assert(std::size(kNames) == static_cast<std::size_t>(SetKind::Letters) + 1);
 
+// What a thumbnail is called, kind by kind in the order SetKind declares them.
+constexpr const char* kSetNames[] = {
+    QT_TRANSLATE_NOOP("Pictures", "Pictures: polyhedra"),
+    QT_TRANSLATE_NOOP("Pictures", "Pictures: cards"),
+    QT_TRANSLATE_NOOP("Pictures", "Pictures: dice"),
+    QT_TRANSLATE_NOOP("Pictures", "Pictures: faces"),
+    QT_TRANSLATE_NOOP("Pictures", "Pictures: flags"),
+    QT_TRANSLATE_NOOP("Pictures", "Pictures: patterns"),
+    QT_TRANSLATE_NOOP("Pictures", "Pictures: shapes"),
+    QT_TRANSLATE_NOOP("Pictures", "Pictures: vehicles"),
+    QT_TRANSLATE_NOOP("Pictures", "Pictures: numbers"),
+    QT_TRANSLATE_NOOP("Pictures", "Pictures: letters"),
+};
+static_assert(std::size(kSetNames) == std::size(kNames));
+
 }  // namespace
 
 std::string PictureSet::thumbnailPath() const {
@@ -173,6 +191,10 @@ const char* pictureName(SetKind kind, int picture) {
     const List<const char*>& names = kNames[static_cast<int>(kind)];
     if (picture < 0 || picture >= names.size()) throw std::out_of_range("no such picture");
     return names[picture];
+}
+
+const char* setName(SetKind kind) {
+    return kSetNames[static_cast<int>(kind)];
 }
 
 }  // namespace tables

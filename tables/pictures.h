@@ -55,6 +55,8 @@ int thumbnailPixels(int boardsize);
 // The spoken name of picture k (from 0) of a kind, e.g. "die showing
 // three", "flag of France".
 const char* pictureName(SetKind kind, int picture);
+// The spoken name of a kind's thumbnail, e.g. "Pictures: dice".
+const char* setName(SetKind kind);
 
 // A picture of a screen and the size of the control that shows it, in twips.
 struct ScreenPicture {

@@ -102,6 +102,18 @@ inline constexpr char kCellName[] =
 inline constexpr char kEmptyCell[] = QT_TRANSLATE_NOOP("Board", "empty");
 inline constexpr char kGivenCell[] = QT_TRANSLATE_NOOP("Board", "Given, cannot be moved");
 inline constexpr char kCell[] = QT_TRANSLATE_NOOP("Board", "Grid cell");
+// A piece: its picture, then which of that picture's copies it is and how
+// many there are ("die showing two, 3 of 4"); where it lies is its
+// description.
+inline constexpr char kPieceName[] = QT_TRANSLATE_NOOP("Board", "%1, %2 of %3");
+inline constexpr char kPieceInTray[] = QT_TRANSLATE_NOOP("Board", "In the tray");
+inline constexpr char kPieceOnCell[] = QT_TRANSLATE_NOOP("Board", "On row %1, column %2");
+inline constexpr char kPieceOffCells[] = QT_TRANSLATE_NOOP("Board", "Not on a cell");
+// A place in the tray, counted from 1: then its piece's picture, or "empty".
+inline constexpr char kTrayPlaceName[] = QT_TRANSLATE_NOOP("Board", "Tray place %1: ");
+// What pressing a picture-set thumbnail does.
+inline constexpr char kThumbnailDescription[] =
+    QT_TRANSLATE_NOOP("Board", "Starts a new puzzle with these pictures");
 }  // namespace board_text
 
 namespace fastest_text {

@@ -6,10 +6,12 @@
 #include <QStyleHints>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <functional>
 #include <set>
 
 #include "board/board_screen.h"
 #include "board/register.h"
+#include "platform/accessible.h"
 #include "platform/fatal.h"
 #include "platform/files.h"
 #include "platform/form.h"
@@ -46,6 +48,24 @@ class BoardTests : public QObject {
         return b;
     }
     static int cells(const Board& b) { return b.layout().n * b.layout().n; }
+    // What the board tells assistive technology, event by event.
+    static inline std::vector<std::pair<QAccessible::Event, QObject*>> told;
+    static void listen() {
+        told.clear();
+        platform::setAnnouncementObserver(
+            [](QAccessible::Event type, QObject* control) { told.emplace_back(type, control); });
+    }
+    static QObject* focused() {
+        for (auto it = told.rbegin(); it != told.rend(); ++it)
+            if (it->first == QAccessible::Focus) return it->second;
+        return nullptr;
+    }
+    static bool focusable(QObject& control) {
+        return QAccessible::queryAccessibleInterface(&control)->state().focusable;
+    }
+    static QString said(QObject& control, QAccessible::Text t = QAccessible::Name) {
+        return QAccessible::queryAccessibleInterface(&control)->text(t);
+    }
     static records::Highscores* scores() {
         return static_cast<records::Highscores*>(
             platform::screens::loaded(tables::Screen::highscores));
@@ -603,9 +623,13 @@ class BoardTests : public QObject {
         auto key = [&](Qt::Key k, Qt::KeyboardModifiers mods = {}) {
             QTest::keyClick(window, k, mods);
         };
+        listen();
         key(Qt::Key_Return);  // the first key only shows the ring
         QVERIFY(b.ring().shown() && b.picking().picked() == -1);
         QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Image3(0).geometry()));
+        // A screen reader follows the ring: to the piece in a slot, to a
+        // cell, and to the slot a piece has left.
+        QCOMPARE(focused(), b.Image2(0).Enabled() ? &b.Image2(0) : &b.Image3(0));
         const int columns = b.layout().trayColumns;
         for (int c = 0; c < b.layout().n * b.layout().n; ++c) {
             if (isGiven(b, c)) continue;
@@ -614,6 +638,7 @@ class BoardTests : public QObject {
                 key(b.ring().slot() / columns < piece / columns ? Qt::Key_Down : Qt::Key_Up);
             while (b.ring().slot() != piece)
                 key(b.ring().slot() < piece ? Qt::Key_Right : Qt::Key_Left);
+            QCOMPARE(focused(), &b.Image2(piece));
             key(Qt::Key_Return);
             QCOMPARE(b.pickMarked(), std::optional<QRect>(b.Image2(piece).geometry()));
             key(Qt::Key_Tab);
@@ -621,9 +646,15 @@ class BoardTests : public QObject {
                 key(b.ring().cell() / 4 < c / 4 ? Qt::Key_Down : Qt::Key_Up);
             while (b.ring().cell() != c) key(b.ring().cell() < c ? Qt::Key_Right : Qt::Key_Left);
             QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Image1(c).geometry()));
+            QCOMPARE(focused(), &b.Image1(c));
+            QVERIFY(QAccessible::queryAccessibleInterface(&b.Image1(c))->state().focused);
+            told.clear();
             key(Qt::Key_Space);
             QVERIFY(liesOn(b.Image2(piece), b.Image1(c)));
+            // The ring stays; what it stands on now has a picture to say.
+            QVERIFY((told == decltype(told){{QAccessible::NameChanged, &b.Image1(c)}}));
             key(Qt::Key_Tab, Qt::ShiftModifier);
+            QCOMPARE(focused(), &b.Image3(piece));
         }
         QVERIFY(b.Timer2.Enabled());
         b.Timer2.tick();
@@ -633,24 +664,36 @@ class BoardTests : public QObject {
 
         const auto before = b.ring().zone();
         const int slot = b.ring().slot();
-        for (Qt::Key k : {Qt::Key_Z, Qt::Key_O, Qt::Key_E, Qt::Key_Return, Qt::Key_Escape,
-                          Qt::Key_Space, Qt::Key_Left})
+        for (Qt::Key k :
+             {Qt::Key_Z, Qt::Key_O, Qt::Key_E, Qt::Key_Escape, Qt::Key_Space, Qt::Key_Left})
             QTest::keyClick(QGuiApplication::focusWindow(), k);
         key(Qt::Key_Tab);  // even sent to the board's own window
         QCOMPARE(scores()->Text1(2).text(), QString("zoe "));
         QVERIFY(scores()->isVisible() && b.ring().zone() == before && b.ring().slot() == slot);
+        // Enter is "Continue": the name kept, the board untouched.
+        QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Return);
+        QVERIFY(!scores() && b.ring().zone() == before && b.ring().slot() == slot);
+        QCOMPARE(m.bestname[0][2][0], std::string("zoe "));
         QCOMPARE(b.Label7->Caption(), std::string("Correct in 1 seconds!!!"));
 
-        // Back on the board, Tab reaches the commands and Enter runs one.
+        // Back on the board, Tab reaches the commands and Enter runs one. The
+        // command the ring stands on holds the focus, for screen readers.
         click(b, b.Label3(StartAgain));
-        QVERIFY(!scores());
         b.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&b));
         key(Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), nullptr);
         key(Qt::Key_Tab);
         QCOMPARE(b.ring().zone(), engine::Zone::Commands);
         QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Label3(ShowSolution).geometry()));
+        QCOMPARE(QApplication::focusWidget(), &b.Label3(ShowSolution));
         key(Qt::Key_Down);
         QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Label3(NewPuzzle).geometry()));
+        QCOMPARE(QApplication::focusWidget(), &b.Label3(NewPuzzle));
+        key(Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), nullptr);  // on the tray the board takes the keys
+        key(Qt::Key_Tab, Qt::ShiftModifier);
+        platform::setAnnouncementObserver({});
         key(Qt::Key_Up);
         takeSounds();
         key(Qt::Key_Enter);
@@ -671,37 +714,74 @@ class BoardTests : public QObject {
         QCOMPARE(takeSounds(), kSpace);
     }
 
-    // Assistive technology hears the captions of the commands, the level,
-    // the clock and the banner, and each cell's row, column and picture.
-    void assistiveTechnologyHearsTheBoard() {
+    // What a screen reader finds on every board: only the texts and the
+    // pictures the player can touch, each picture named (copies in the tray
+    // told apart), a cell naming the picture on it; the logo, the markers and
+    // the regions are not there at all. Names and descriptions follow the
+    // pieces as they move; the commands, the level, the clock and the banner
+    // read out their captions.
+    void screenReadersNameEveryPicture() {
+        for (int size = 0; size < 3; ++size) {
+            Board& b = open(size, 1, 1);
+            const int n = b.layout().n;
+            std::set<QObject*> inTree;
+            std::function<void(QAccessibleInterface*)> walk = [&](QAccessibleInterface* parent) {
+                for (int i = 0; i < parent->childCount(); ++i) {
+                    QAccessibleInterface* child = parent->child(i);
+                    QObject* control = child->object();
+                    inTree.insert(control);
+                    const bool picture = dynamic_cast<PictureBox*>(control);
+                    QVERIFY2(dynamic_cast<platform::Label*>(control) ||
+                                 (picture && !child->text(QAccessible::Name).isEmpty()),
+                             qPrintable(control->objectName() + " is unnamed or decoration"));
+                    walk(child);
+                }
+            };
+            walk(QAccessible::queryAccessibleInterface(&b));
+            std::set<QString> names;
+            auto named = [&](QWidget& control) {
+                QVERIFY2(inTree.count(&control) && names.insert(said(control)).second,
+                         qPrintable(control.objectName() + ": " + said(control)));
+            };
+            for (int k = 0; k < n * n; ++k) {
+                named(b.Image2(k));
+                named(b.Image3(k));
+            }
+            const auto& sets = tables::catalogue(size);
+            for (int s = 0; s < sets.size(); ++s) named(b.Image4(s));
+            const auto& kind = sets[b.pictureset].kind;
+            for (int c = 0; c < n * n; ++c) {
+                const QString onIt =
+                    isGiven(b, c) ? tables::pictureName(kind, solutionPiece(b, c) / n) : "empty";
+                QVERIFY2(said(b.Image1(c)).endsWith(": " + onIt), qPrintable(said(b.Image1(c))));
+            }
+            const int given = firstCell(b, true), cell = firstCell(b, false);
+            const int piece = solutionPiece(b, cell);
+            QCOMPARE(said(b.Image2(solutionPiece(b, given)), QAccessible::Description),
+                     QString("Given, cannot be moved"));
+            QCOMPARE(said(b.Image2(piece), QAccessible::Description), QString("In the tray"));
+            dragTo(b, piece, b.Image1(cell));
+            const QString picture = tables::pictureName(kind, piece / n);
+            QCOMPARE(said(b.Image1(cell)),
+                     QString("Row %1, column %2: ").arg(cell / n + 1).arg(cell % n + 1) + picture);
+            QCOMPARE(said(b.Image2(piece), QAccessible::Description),
+                     QString("On row %1, column %2").arg(cell / n + 1).arg(cell % n + 1));
+            QCOMPARE(said(b.Image3(piece)), QString("Tray place %1: empty").arg(piece + 1));
+            cleanup();
+        }
+
         Board& b = open(1, 1, 1);
-        auto said = [](QObject& control, QAccessible::Text t = QAccessible::Name) {
-            return QAccessible::queryAccessibleInterface(&control)->text(t);
-        };
         QCOMPARE(said(b.Label1(0)), QString("2"));
         QCOMPARE(said(b.Label1(0), QAccessible::Description), QString("Level"));
         b.Timer1.tick();
         QCOMPARE(said(b.Label2(1)), QString("1"));
         b.Label7->setCaption("Wrong, Try Again");
         QCOMPARE(said(*b.Label7), QString("Wrong, Try Again"));
-
         auto* panel = QAccessible::queryAccessibleInterface(&b.Label3(SwitchPanel));
         QCOMPARE(panel->role(), QAccessible::Button);
         QCOMPARE(panel->text(QAccessible::Name), QString("Change Pictures"));
         panel->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(panel->text(QAccessible::Name), QString("Show Rules"));
-
-        const auto& set = tables::catalogue(1)[b.pictureset];
-        const int given = firstCell(b, true), cell = firstCell(b, false);
-        const int piece = solutionPiece(b, cell);
-        const QString picture = tables::pictureName(set.kind, piece / 5);
-        QCOMPARE(said(b.Image1(cell)),
-                 QString("Row %1, column %2: empty").arg(cell / 5 + 1).arg(cell % 5 + 1));
-        dragTo(b, piece, b.Image1(cell));
-        QCOMPARE(said(b.Image1(cell)),
-                 QString("Row %1, column %2: ").arg(cell / 5 + 1).arg(cell % 5 + 1) + picture);
-        QCOMPARE(said(b.Image1(given), QAccessible::Description),
-                 QString("Given, cannot be moved"));
     }
 
     // A command the board hides (the fastest times with the clock off, "New
@@ -731,6 +811,33 @@ class BoardTests : public QObject {
         QCOMPARE(press(b.Label3(ShowSolution)),
                  QStringList{QAccessibleActionInterface::pressAction()});
         QVERIFY(b.Label3(NewPuzzle).Visible());
+
+        // Nor can a hidden piece be pressed, or focused by the ring: on its
+        // slot the ring stands on the slot.
+        click(b, b.Label3(NewPuzzle));
+        int hidden = 1;
+        while (!b.Image2(hidden).Enabled()) ++hidden;  // one in the tray's first row
+        QVERIFY(hidden < b.layout().trayColumns);
+        b.Image2(hidden).hide();
+        QVERIFY(QTest::qWaitForWindowActive(&b));
+        listen();
+        for (int i = 0; i <= hidden; ++i) QTest::keyClick(b.windowHandle(), Qt::Key_Right);
+        QCOMPARE(b.ring().slot(), hidden);
+        QCOMPARE(focused(), &b.Image3(hidden));
+        QVERIFY(!focusable(b.Image2(hidden)) && focusable(b.Image3(hidden)));
+        QCOMPARE(press(b.Image2(hidden)), QStringList());
+        QCOMPARE(b.picking().picked(), -1);
+        b.Image2(hidden).show();
+        QTest::keyClick(b.windowHandle(), Qt::Key_Left);
+        QTest::keyClick(b.windowHandle(), Qt::Key_Right);
+        QCOMPARE(focused(), &b.Image2(hidden));
+        // Among the commands, a thumbnail the ring stands on has the focus.
+        click(b, b.Label3(SwitchPanel));
+        for (Qt::Key k : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down})
+            QTest::keyClick(b.windowHandle(), k);
+        QCOMPARE(b.ringMarked(), std::optional<QRect>(b.Image4(0).geometry()));
+        QCOMPARE(focused(), &b.Image4(0));
+        platform::setAnnouncementObserver({});
     }
     // The clock ticks each second and the check comes once, a second after
     // the grid fills. "Timers On" and "Play Sound" are on only at 1: at 2

@@ -14,16 +14,64 @@
 # game runs with LANGUAGE=$E2E_LANGUAGE when that is set. With E2E_NAME set,
 # the game is started a second time to show the record on the board's
 # fastest-times screen, read back through the hook.
+#
+# E2E_PLAY=reader plays the whole game with the keyboard alone, as a player
+# who cannot use a mouse and hears a screen reader: not one pointer event.
+# Each command is found by Tab, asking AT-SPI (screen_reader.py) which
+# control has the focus, and pressed with a key; the AT-SPI trees of the
+# options screen and of the board go to the output folder. Run as root, the
+# game is played by an ordinary user with a D-Bus session of its own.
 set -euo pipefail
-source "$(dirname "${BASH_SOURCE[0]}")/free_display.sh"
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+source "$here/free_display.sh"
 
 game_exe=$1
 game_dir=$2
 out=$3
+play=${E2E_PLAY:-drag}
+
+if [[ $play == reader && $(id -u) == 0 ]]; then
+    # The player may not reach the build folder: the game, its pictures and
+    # these scripts are copied to a folder of its own.
+    player=pimbalo-player
+    id -u "$player" >/dev/null 2>&1 ||
+        useradd --system --no-create-home --shell /usr/sbin/nologin "$player" 2>/dev/null ||
+        id -u "$player" >/dev/null 2>&1 || {
+        echo "SKIP: cannot make the player account $player"
+        exit 77
+    }
+    stage=$(mktemp -d)
+    trap 'rm -rf "$stage"' EXIT
+    mkdir -p "$stage"/{game,scripts,out,home}
+    cp "$game_exe" "$(dirname "$game_exe")"/pimbalo-sound* "$stage/game/" 2>/dev/null || true
+    cp -rL "$game_dir/Images" "$game_dir/wav" "$stage/game/"
+    cp "$here"/*.sh "$here"/*.py "$stage/scripts/"
+    chmod -R a+rX "$stage"
+    chown "$player" "$stage/out" "$stage/home"
+    status=0
+    runuser -u "$player" -- env E2E_PLAY=reader E2E_WM="${E2E_WM:-openbox}" HOME="$stage/home" \
+        TMPDIR=/tmp bash "$stage/scripts/play_game.sh" "$stage/game/$(basename "$game_exe")" \
+        "$stage/game" "$stage/out" || status=$?
+    mkdir -p "$out"
+    rm -f "$out"/*.png "$out"/*.txt
+    cp -r "$stage/out/." "$out/"
+    exit "$status"
+fi
 
 # A real desktop (window manager, audio server) when asked for.
-source "$(dirname "$0")/desktop.sh"
+source "$here/desktop.sh"
 desktop_need Xvfb xdotool import cmp
+if [[ $play == reader ]]; then
+    desktop_need dbus-run-session /usr/bin/python3 "$desktop_wm"
+    /usr/bin/python3 -c 'import pyatspi' 2>/dev/null || desktop_need python3-pyatspi
+    # No pointer: none of the desktop checks, which click; only its window
+    # manager, without which no window gets the keyboard.
+    for check in on_title on_options on_rules after_rules on_board on_name_entry \
+        after_name_entry finish; do
+        eval "desktop_$check() { :; }"
+    done
+    desktop_continue_by_key() { return 1; }
+fi
 
 mkdir -p "$out"
 rm -f "$out"/*.png "$out"/*.inf "$out"/game.log
@@ -98,8 +146,19 @@ export XDG_RUNTIME_DIR="$work/runtime"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 desktop_start
 start_game() {
-    (cd "$work" && exec env QT_QPA_PLATFORM=xcb ${E2E_LANGUAGE:+LANGUAGE=$E2E_LANGUAGE} \
-        "$game_exe") >>"$out/game.log" 2>&1 &
+    if [[ $play == reader ]]; then
+        # The game on a session bus of its own with the accessibility bus
+        # launched, as a desktop session has them; the bus address is left in
+        # the work folder for screen_reader.py.
+        (cd "$work" && exec dbus-run-session -- bash -c '
+            /usr/libexec/at-spi-bus-launcher --launch-immediately &
+            echo "$DBUS_SESSION_BUS_ADDRESS" >bus
+            exec env QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_QPA_PLATFORM=xcb "$0"' "$game_exe") \
+            >>"$out/game.log" 2>&1 &
+    else
+        (cd "$work" && exec env QT_QPA_PLATFORM=xcb ${E2E_LANGUAGE:+LANGUAGE=$E2E_LANGUAGE} \
+            "$game_exe") >>"$out/game.log" 2>&1 &
+    fi
     game_pid=$!
 }
 start_game
@@ -150,6 +209,42 @@ click_control() {
     sleep 0.3
 }
 
+# --- the keyboard and the screen reader (E2E_PLAY=reader) ---------------------
+reader() {
+    DBUS_SESSION_BUS_ADDRESS=$(cat "$work/bus") /usr/bin/python3 "$here/screen_reader.py" "$@"
+}
+
+press_key() {
+    xdotool key --delay 40 "$@"
+    sleep 0.15
+}
+
+# Moves the focus with `key` (Tab, or an arrow within a group) until the
+# screen reader says the control named `name` has it.
+focus_on() {
+    local name=$1 key=${2:-Tab} i now
+    for i in $(seq 30); do
+        now=$(reader focused 2>/dev/null | cut -f2)
+        [[ $now == "$name" ]] && return 0
+        press_key "$key"
+    done
+    fail "the focus never reached \"$name\" (last on \"$now\")"
+}
+
+# A command: in reader mode reached by `move` keys and run with `key`, else
+# clicked at its twips rectangle on the screen at `origin`.
+#   choose <name> <key> <move> <origin> <left> <top> <width> <height> [indicator]
+choose() {
+    local name=$1 key=$2 move=$3
+    shift 3
+    if [[ $play == reader ]]; then
+        focus_on "$name" "$move"
+        press_key "$key"
+    else
+        click_control "$@"
+    fi
+}
+
 shot_number=0
 shot() {
     shot_number=$((shot_number + 1))
@@ -176,27 +271,34 @@ drag() {
 title=$(wait_screen Titlefrm)
 desktop_on_title
 shot title
-click_control "$title" 1560 7080 1575 600  # "OK"
+if [[ $play == reader ]]; then
+    first=$(reader focused | cut -f1,2)
+    [[ $first == $'push button\tOK' ]] || fail "the title opened with the focus on '$first'"
+fi
+choose OK Return Tab "$title" 1560 7080 1575 600
 
 options=$(wait_screen Startplay2)
 wait_screen Grey >/dev/null
 wait_gone Titlefrm
 shot options
 desktop_on_options
-click_control "$options" 360 5100 1575 375 indicator  # "Timers On"
-click_control "$options" 3900 4200 2295 555           # "The Rules"
+if [[ $play == reader ]]; then
+    reader tree --window " " >"$out/atspi-options.txt"
+fi
+choose "Timers On" space Tab "$options" 360 5100 1575 375 indicator
+choose "The Rules" Return Tab "$options" 3900 4200 2295 555
 
 rules=$(wait_screen Morvelrules)
 desktop_on_rules
 shot rules-4x4
-click_control "$rules" 360 1320 2295 495 indicator  # "6x6 Board"
+choose "6x6 Board" space Down "$rules" 360 1320 2295 495 indicator
 shot rules-6x6
-click_control "$rules" 13560 10920 1695 495  # "Exit"
+choose Exit Return Tab "$rules" 13560 10920 1695 495
 wait_gone Morvelrules
 desktop_after_rules
 
 shot options-timers-on
-click_control "$options" 1440 6360 975 855  # level "1"
+choose 1 Return Tab "$options" 1440 6360 975 855
 started=$SECONDS
 board=$(wait_screen jigsaw)
 wait_gone Startplay2
@@ -204,9 +306,10 @@ shot board
 desktop_on_board
 mapfile -t moves < <(state | awk '$1 == "move" { print $2, $3, $4, $5 }')
 ((${#moves[@]} > 0)) || fail "the board reported no moves"
-if [[ ${E2E_PLAY:-drag} != drag ]]; then  # click or keys: no drags at all
-    source "$(dirname "${BASH_SOURCE[0]}")/play_without_drag.sh"
-    "play_by_$E2E_PLAY"
+[[ $play == reader ]] && reader tree >"$out/atspi-board.txt"
+if [[ $play != drag ]]; then  # click, keys or reader: no drags at all
+    source "$here/play_without_drag.sh"
+    "play_by_${play/reader/keys}"
     moves=()
 fi
 echo "dragging ${#moves[@]} pieces"
@@ -221,27 +324,44 @@ shot verdict
 desktop_on_name_entry
 box=$(state | awk '$1 == "textbox" { print $2, $3 }')
 [[ -n $box ]] || fail "no name box has the focus"
-xdotool mousemove --sync ${box} click 1
-sleep 0.2
+if [[ $play == reader ]]; then
+    # The box has the focus already, the reader says; Enter is "Continue".
+    [[ $(reader focused | cut -f1) == text ]] || fail "the name box has not the focus"
+else
+    xdotool mousemove --sync ${box} click 1
+    sleep 0.2
+fi
 typed=${E2E_NAME:-Zoe 7}
 LC_ALL=C.UTF-8 xdotool type --delay 80 "$typed"  # xdotool reads non-ASCII by the locale
 sleep 0.5  # the screen copies the name every 100 ms
 shot name-typed
 solved_within=$((SECONDS - started + 1))
-desktop_continue_by_key || click_control "$scores" 12960 120 1935 495  # "Continue"
+if [[ $play == reader ]]; then
+    press_key Return
+else
+    desktop_continue_by_key || click_control "$scores" 12960 120 1935 495  # "Continue"
+fi
 wait_gone highscores
 shot board-after
 desktop_after_name_entry
 
-click_control "$board" 13740 10680 1245 555  # the board's "Exit"
+# On a board Tab goes from the tray to the grid to the commands, where the
+# arrows walk them.
+if [[ $play == reader ]]; then
+    for _ in 1 2 3 4; do
+        [[ $(reader focused 2>/dev/null | cut -f1) == "push button" ]] && break
+        press_key Tab
+    done
+fi
+choose Exit Return Down "$board" 13740 10680 1245 555
 options=$(wait_screen Startplay2)
 wait_gone jigsaw
 shot options-again
-click_control "$options" 5280 7500 735 375  # "Exit"
+choose Exit Return Tab "$options" 5280 7500 735 375
 
 title=$(wait_screen Titlefrm)
 shot title-cancel
-click_control "$title" 3360 7080 1575 600  # "Exit"
+choose Exit Return Tab "$title" 3360 7080 1575 600
 
 for _ in $(seq 100); do
     kill -0 "$game_pid" 2>/dev/null || break

@@ -1,10 +1,12 @@
 // The platform layer under the screens: file lookup, twips placement, control
 // arrays, the screen model, value-change events and window placing.
+#include <QAccessible>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <stdexcept>
+#include <tuple>
 
 #include "platform/control_array.h"
 #include "platform/controls.h"
@@ -279,6 +281,86 @@ class PlatformTests : public QObject {
         QTest::mouseMove(w, onCommand + QPoint(30, 0));
         QTest::mouseRelease(w, Qt::LeftButton, {}, onCommand + QPoint(30, 0));
         QCOMPARE(clicks, 2);
+    }
+
+    // Commands and boxes from the keyboard and from a screen reader: the
+    // first command takes the focus, Tab skips what the player cannot reach,
+    // Space and Enter press, and the focus band stays inside the command.
+    void commandsTakeKeysAndScreenReaders() {
+        screens::registerScreen(tables::Screen::Morvelrules, [] {
+            return new Form(tables::Screen::Morvelrules, FormKind::FullSize);
+        });
+        Form& form = screens::get(tables::Screen::Morvelrules);
+        auto command = [&form](float left, const char* caption) {
+            auto* label = new Label(&form);
+            label->setLook({Qt::yellow, Qt::black, false, true, Qt::AlignHCenter, QFont(), false});
+            label->setBounds(left, 600, 1500, 600);
+            label->setCaption(caption);
+            label->makeCommand();
+            return label;
+        };
+        Label* hidden = command(0, "Hidden");
+        Label* first = command(1500, "First");
+        auto* box = new CheckBox(&form);
+        box->setBounds(3000, 600, 1500, 600);
+        box->setText("Box");
+        box->setValue(1);
+        Label* last = command(4500, "Last");
+        hidden->hide();
+        form.setCommandOrder({hidden, first, box, last});
+        int hiddenRuns = 0, firstRuns = 0, lastRuns = 0;
+        hidden->on.click = [&] { ++hiddenRuns; };
+        first->on.click = [&] { ++firstRuns; };
+        last->on.click = [&] { ++lastRuns; };
+        form.Show();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        QCOMPARE(QApplication::focusWidget(), first);
+
+        const QImage unfocused = last->grab().toImage();
+        QWindow* window = form.windowHandle();
+        QTest::keyClick(window, Qt::Key_Space);
+        QTest::keyClick(window, Qt::Key_Tab);
+        QCOMPARE(box->grab().toImage().pixelColor(0, 20), QColor(Qt::black));  // its band
+        QTest::keyClick(window, Qt::Key_Return);  // ticks and clears the box too
+        QCOMPARE(box->Value(), 0);
+        QTest::keyClick(window, Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), last);
+        QTest::keyClick(window, Qt::Key_Enter);
+        QTest::keyClick(window, Qt::Key_Tab);  // round past the hidden one
+        QCOMPARE(QApplication::focusWidget(), first);
+        QTest::keyClick(window, Qt::Key_Tab, Qt::ShiftModifier);
+        QCOMPARE(QApplication::focusWidget(), last);
+        QCOMPARE(std::tuple(hiddenRuns, firstRuns, lastRuns), std::tuple(0, 1, 1));
+
+        // The band lies inside the frame: the edge rows keep their colour.
+        const QImage focused = last->grab().toImage();
+        QCOMPARE(last->geometry(), QRect(300, 40, 100, 40));
+        QVERIFY(focused != unfocused);
+        for (int x = 0; x < focused.width(); ++x)
+            QCOMPARE(focused.pixel(x, 0), unfocused.pixel(x, 0));
+        QCOMPARE(focused.pixelColor(2, 20), QColor(Qt::white));
+
+        // A screen reader: buttons named as shown, pressed only while shown.
+        auto* reader = QAccessible::queryAccessibleInterface(last);
+        QCOMPARE(reader->role(), QAccessible::Button);
+        last->setCaption("Renamed");
+        QCOMPARE(reader->text(QAccessible::Name), QString("Renamed"));
+        QVERIFY(reader->state().focused && reader->state().focusable);
+        reader->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        auto* boxReader = QAccessible::queryAccessibleInterface(box);
+        QCOMPARE(boxReader->role(), QAccessible::CheckBox);
+        boxReader->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QVERIFY(boxReader->state().checked && box->Value() == 1);
+        auto* hiddenReader = QAccessible::queryAccessibleInterface(hidden);
+        QVERIFY(hiddenReader->actionInterface()->actionNames().isEmpty());
+        hiddenReader->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        hiddenReader->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+        box->hide();
+        boxReader->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(box->Value(), 1);
+        QCOMPARE(std::tuple(hiddenRuns, lastRuns), std::tuple(0, 2));
+        QCOMPARE(QApplication::focusWidget(), last);
+        screens::unload(tables::Screen::Morvelrules);
     }
 
     // The overlay's border makes it as wide as the full-size screen; window

@@ -76,6 +76,20 @@ class RulesTests : public ScreenTest {
             QCOMPARE(sounds, clickIfOn);  // pages turn silently
         }
     }
+
+    // From the keyboard: the page buttons first, the arrows turn the pages,
+    // Tab goes on to "Exit", which Space presses.
+    void keysTurnThePagesAndExit() {
+        openRules();
+        QVERIFY(QTest::qWaitForWindowActive(&rules()));
+        QCOMPARE(QApplication::focusWidget(), &rules().Option1(0));
+        QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Down);
+        checkPage(1);
+        QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), &rules().Label3(0));
+        QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Space);
+        QVERIFY(!platform::screens::isLoaded(Morvelrules::kScreen));
+    }
 };
 
 int runRulesTests(int argc, char* argv[]) {

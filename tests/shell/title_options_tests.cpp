@@ -240,6 +240,54 @@ class TitleAndOptionsTests : public ScreenTest {
             platform::screens::unload(tables::boardScreen(size));
         }
     }
+
+    // Without a mouse: each screen opens on its first command, Tab and
+    // Shift+Tab walk them in reading order (the sizes one stop, the arrows
+    // within them), Space and Enter press, tick and clear.
+    void keyboardOnlyFromTheTitleToABoard() {
+        writeFile("lastgame.inf", "1\r\n0\r\n1\r\n1\r\n");  // sound on, 5x5
+        platform::screens::show(Titlefrm::kScreen);
+        Titlefrm& title = screen<Titlefrm>();
+        QVERIFY(QTest::qWaitForWindowActive(&title));
+        auto press = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+            QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);
+        };
+        auto focused = [] { return QApplication::focusWidget(); };
+        QCOMPARE(focused(), title.Label5);
+        press(Qt::Key_Tab);
+        QCOMPARE(focused(), title.Label7);
+        press(Qt::Key_Tab, Qt::ShiftModifier);
+        QCOMPARE(focused(), title.Label5);
+        press(Qt::Key_Return);
+        QVERIFY(!isLoaded(Titlefrm::kScreen) && !ended);
+
+        Startplay2& o = options();
+        QVERIFY(QTest::qWaitForWindowActive(&o));
+        QCOMPARE(focused(), &o.Option1(1));
+        press(Qt::Key_Down);
+        QVERIFY(focused() == &o.Option1(2) && o.Option1(2).Value());
+        press(Qt::Key_Up);
+        press(Qt::Key_Up);
+        QVERIFY(focused() == &o.Option1(0) && o.Option1(0).Value());
+        QCOMPARE(shell::module1().boardsize, 0);
+        const std::vector<QWidget*> order{o.Label6,     o.Check2,      o.Check1,     o.Check3,
+                                          &o.Label1(0), &o.Label1(1),  &o.Label1(2), &o.Label2(12),
+                                          &o.Label3(0), &o.Option1(0), &o.Label3(0)};
+        for (std::size_t i = 0; i < order.size(); ++i) {
+            QWidget* next = order[i];
+            press(i + 1 == order.size() ? Qt::Key_Backtab : Qt::Key_Tab);
+            QCOMPARE(focused(), next);
+            if (next == o.Check2) press(Qt::Key_Space);
+            if (next == o.Check1) press(Qt::Key_Enter);
+        }
+        QCOMPARE(shell::module1().timerson, 1);
+        QCOMPARE(shell::module1().playsound, 0);
+        for (int k = 0; k < 3; ++k) press(Qt::Key_Backtab);
+        QCOMPARE(focused(), &o.Label1(1));
+        press(Qt::Key_Space);
+        QVERIFY(isLoaded(tables::Screen::jigsaw) && !isLoaded(Startplay2::kScreen));
+        QCOMPARE(shell::module1().level, 1);
+    }
 };
 
 int runTitleAndOptionsTests(int argc, char* argv[]) {

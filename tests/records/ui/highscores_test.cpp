@@ -2,6 +2,7 @@
 // entry after a qualifying time, viewing in a board's colour, and closing.
 #include "records/highscores.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QGlyphRun>
 #include <QTextBoundaryFinder>
@@ -196,6 +197,24 @@ class HighscoresTests : public QObject {
         screen().close();
         QVERIFY(!platform::screens::isLoaded(Highscores::kScreen));
         QCOMPARE(tables.bestname[2][1][0], string("Eve"));
+
+        // The keyboard: Tab stays in the box, the only control that takes the
+        // keys, and Enter there is "Continue", the name kept. A screen reader
+        // presses "Continue" as a button.
+        qualify(2, 1, "60");
+        QVERIFY(QTest::qWaitForWindowActive(&screen()));
+        QTest::keyClicks(nullptr, "Fay");
+        QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), &screen().Text1(1));
+        QTest::keyClick(QGuiApplication::focusWindow(), Qt::Key_Return);
+        QVERIFY(!platform::screens::isLoaded(Highscores::kScreen));
+        QCOMPARE(tables.bestname[2][1][2], string("Fay"));
+        records::openForViewing(tables, 2, kBlue);
+        auto* reader = QAccessible::queryAccessibleInterface(&screen().Label3(0));
+        QCOMPARE(reader->role(), QAccessible::Button);
+        QCOMPARE(reader->text(QAccessible::Name), QString("Continue"));
+        reader->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QVERIFY(!platform::screens::isLoaded(Highscores::kScreen));
 
         // A record while the tables are on view: red again, the new time shown.
         records::openForViewing(tables, 2, kBlue);
