@@ -15,7 +15,7 @@
 # window with one line of text, shows what drawing any text costs on top.
 # BENCH_DIR names the folder holding startup and bare_window (build/bench).
 set -euo pipefail
-source "$(dirname "${BASH_SOURCE[0]}")/../tests/e2e/free_display.sh"
+source "$(dirname "${BASH_SOURCE[0]}")/../tests/e2e/start_xvfb.sh"
 root=$(cd "$(dirname "$0")/.." && pwd)
 rounds=15
 if [[ ${1:-} == -n ]]; then
@@ -49,15 +49,8 @@ cleanup() {
 }
 trap cleanup EXIT
 
-display=$(free_display 161 230) || { echo "no free X display" >&2; exit 1; }
-Xvfb "$display" -screen 0 1280x1024x24 -nolisten tcp >"$out/xvfb.log" 2>&1 &
-xvfb_pid=$!
-export DISPLAY=$display QT_QPA_PLATFORM=xcb
-for _ in $(seq 100); do
-    [[ -e /tmp/.X11-unix/X${display#:} ]] && break
-    sleep 0.1
-done
-sleep 0.3
+start_xvfb "$out/xvfb.log" || { echo "Xvfb did not start" >&2; exit 1; }
+export QT_QPA_PLATFORM=xcb
 
 # The saved files a returning player has: sound and clock on, some records.
 write_saved_files() {  # folder board-size

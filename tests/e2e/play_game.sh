@@ -23,7 +23,7 @@
 # game is played by an ordinary user with a D-Bus session of its own.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
-source "$here/free_display.sh"
+source "$here/start_xvfb.sh"
 
 game_exe=$1
 game_dir=$2
@@ -103,15 +103,7 @@ fail() {
 }
 
 # --- a virtual screen of 1280 x 1024 pixels, no window manager -------------
-display=$(free_display 91 160) || fail "no free X display"
-Xvfb "$display" -screen 0 1280x1024x24 -nolisten tcp >"$out/xvfb.log" 2>&1 &
-xvfb_pid=$!
-export DISPLAY=$display
-for _ in $(seq 100); do
-    xdotool getdisplaygeometry >/dev/null 2>&1 && break
-    kill -0 "$xvfb_pid" 2>/dev/null || fail "Xvfb did not start"
-    sleep 0.1
-done
+start_xvfb "$out/xvfb.log" || fail "Xvfb did not start"
 xdotool getdisplaygeometry >/dev/null 2>&1 || fail "Xvfb did not answer"
 
 # --- the game folder: saved options and records of an earlier game ---------

@@ -33,7 +33,7 @@ if [[ ${1:-} != --inside ]]; then
     trap 'rm -rf "$stage"' EXIT
     cp "$game_exe" "$stage/pimbalo"
     cp "$(dirname "$game_exe")"/pimbalo-sound*.so "$stage/" 2>/dev/null || true
-    cp "$here"/{read_boards.sh,board_reader.py,screen_reader.py,free_display.sh} "$stage/"
+    cp "$here"/{read_boards.sh,board_reader.py,screen_reader.py,start_xvfb.sh} "$stage/"
     mkdir "$stage/out" "$stage/work"
     ln -s "$game_dir/Images" "$stage/work/Images"
     ln -s "$game_dir/wav" "$stage/work/wav"
@@ -63,7 +63,7 @@ fi
 stage=$2
 work=$stage/work
 out=$stage/out
-source "$stage/free_display.sh"
+source "$stage/start_xvfb.sh"
 pids=()
 cleanup() {
     local status=$? pid
@@ -82,26 +82,8 @@ mkdir -m 700 "$XDG_RUNTIME_DIR"
 /usr/libexec/at-spi-bus-launcher --launch-immediately >"$out/at-spi.log" 2>&1 &
 pids+=($!)
 
-# Another test may take the same free display at the same moment: its lock
-# makes our Xvfb end at once, and we try the next.
-xvfb=""
-for _ in 1 2 3 4 5; do
-    display=$(free_display $((120 + RANDOM % 30)) 160) || continue
-    Xvfb "$display" -screen 0 1280x1024x24 -nolisten tcp >"$out/xvfb.log" 2>&1 &
-    xvfb=$!
-    export DISPLAY=$display
-    for _ in $(seq 100); do
-        kill -0 "$xvfb" 2>/dev/null || break
-        xdotool getdisplaygeometry >/dev/null 2>&1 && break
-        sleep 0.1
-    done
-    sleep 0.5
-    kill -0 "$xvfb" 2>/dev/null && break
-done
-if [[ -z $xvfb ]] || ! kill -0 "$xvfb" 2>/dev/null; then
-    echo "FAIL: no X display of our own"
-    exit 1
-fi
+start_xvfb "$out/xvfb.log" || { echo "FAIL: no X display of our own"; exit 1; }
+xvfb=$xvfb_pid
 pids+=("$xvfb")
 # Keyboard focus needs a window manager.
 openbox --sm-disable >"$out/wm.log" 2>&1 &
