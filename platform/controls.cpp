@@ -282,11 +282,6 @@ void CheckBox::paintEvent(QPaintEvent* e) {
     paintFocus(*this, 0);
 }
 
-void TextBox::keyPressEvent(QKeyEvent* e) {
-    QLineEdit::keyPressEvent(e);
-    if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) e->accept();
-}
-
 void styleText(QWidget& w, const QColor& fore, const QColor& back, const QFont& font) {
     w.setFont(font);
     QPalette pal = w.palette();

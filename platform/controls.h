@@ -236,11 +236,6 @@ class TextBox : public Placed<QLineEdit> {
   public:
     explicit TextBox(QWidget* parent) : Placed<QLineEdit>(parent) {}
     std::string Text() const { return text().toStdString(); }
-
-  protected:
-    // Enter is the box's own (returnPressed): it never passes on to the
-    // window, which may have closed by then and left its keys to another.
-    void keyPressEvent(QKeyEvent* e) override;
 };
 
 // Shared looks of the game's screens.
