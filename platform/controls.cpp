@@ -196,7 +196,11 @@ template <class Button>
 QRect captionArea(Button& button, QStyle::SubElement contents) {
     QStyleOptionButton option;
     option.initFrom(&button);
-    return button.style()->subElementRect(contents, &option, &button) & button.rect();
+    // The band lies in the gap before the caption, which starts at the area's edge.
+    return button.style()
+               ->subElementRect(contents, &option, &button)
+               .adjusted(-kFocusBand, 0, 0, 0) &
+           button.rect();
 }
 
 }  // namespace
