@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QSet>
+#include <QStyle>
+#include <QStyleOptionButton>
 #include <QValidator>
 #include <algorithm>
 
@@ -205,17 +207,30 @@ namespace {
 
 // The style's own focus frame shows only once Tab was pressed in the window;
 // the game's band shows from the moment a screen opens.
-void paintFocus(QWidget& control, int inset) {
+void paintFocus(QWidget& control, const QRect& around) {
     if (!control.hasFocus()) return;
     QPainter painter(&control);
-    drawFocusBand(painter, control.rect().adjusted(inset, inset, -inset, -inset));
+    drawFocusBand(painter, around);
+}
+
+// Round a box's caption, leaving its indicator clear.
+template <class Button>
+QRect captionArea(Button& button, QStyle::SubElement contents) {
+    QStyleOptionButton option;
+    option.initFrom(&button);
+    // The band lies in the gap before the caption, which starts at the area's edge.
+    return button.style()
+               ->subElementRect(contents, &option, &button)
+               .adjusted(-kFocusBand, 0, 0, 0) &
+           button.rect();
 }
 
 }  // namespace
 
 void Label::paintEvent(QPaintEvent* e) {
     QLabel::paintEvent(e);
-    if (command_ && (focusPolicy() & Qt::TabFocus)) paintFocus(*this, kFocusInset);
+    if (command_ && (focusPolicy() & Qt::TabFocus))
+        paintFocus(*this, rect().adjusted(kFocusInset, kFocusInset, -kFocusInset, -kFocusInset));
 }
 
 void Label::setForeColor(const QColor& c) {
@@ -280,7 +295,7 @@ void OptionButton::keyPressEvent(QKeyEvent* e) {
 
 void OptionButton::paintEvent(QPaintEvent* e) {
     QRadioButton::paintEvent(e);
-    paintFocus(*this, 0);
+    paintFocus(*this, captionArea(*this, QStyle::SE_RadioButtonContents));
 }
 
 CheckBox::CheckBox(QWidget* parent) : Placed<QCheckBox>(parent) {
@@ -301,12 +316,7 @@ void CheckBox::keyPressEvent(QKeyEvent* e) {
 
 void CheckBox::paintEvent(QPaintEvent* e) {
     QCheckBox::paintEvent(e);
-    paintFocus(*this, 0);
-}
-
-void TextBox::keyPressEvent(QKeyEvent* e) {
-    QLineEdit::keyPressEvent(e);
-    if (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter) e->accept();
+    paintFocus(*this, captionArea(*this, QStyle::SE_CheckBoxContents));
 }
 
 void styleText(QWidget& w, const QColor& fore, const QColor& back, const QFont& font) {

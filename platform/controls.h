@@ -255,11 +255,6 @@ class TextBox : public Placed<QLineEdit> {
     // mark), and the saved names are capped the same way. A key or paste
     // that would go past the limit is refused.
     void setMaxCharacters(int most);
-
-  protected:
-    // Enter is the box's own (returnPressed): it never passes on to the
-    // window, which may have closed by then and left its keys to another.
-    void keyPressEvent(QKeyEvent* e) override;
 };
 
 // Shared looks of the game's screens.

@@ -344,6 +344,7 @@ if [[ $play == reader ]]; then
         [[ $(reader focused 2>/dev/null | cut -f1) == "push button" ]] && break
         press_key Tab
     done
+    reader tree >"$out/atspi-board-command-focused.txt"
 fi
 choose Exit Return Down "$board" 13740 10680 1245 555
 options=$(wait_screen Startplay2)
