@@ -7,6 +7,7 @@
 #include "board/board_screen.h"
 #include "board/marks.h"
 #include "platform/accessible.h"
+#include "platform/translation.h"
 #include "tables/pictures.h"
 #include "tables/texts.h"
 
@@ -15,8 +16,13 @@ namespace {
 
 namespace text = tables::board_text;
 
+// What the label shows, in the player's language.
 QString captionOf(const platform::Label& label) {
-    return QString::fromStdString(label.Caption());
+    return label.text();
+}
+
+QString said(const char* text) {
+    return platform::translated("Board", text);
 }
 
 template <class A, class B>
@@ -38,14 +44,14 @@ void describeEach(platform::ControlArray<Control>& array, Describe describe) {
 
 QString Board::spokenPicture(int piece) const {
     const auto& set = tables::catalogue(layout_.boardsize)[pictureset];
-    return tables::pictureName(set.kind, piece / layout_.n);
+    return platform::translated("Pictures", tables::pictureName(set.kind, piece / layout_.n));
 }
 
 void Board::describeControls() {
     Label3.forEach([this](int i, platform::Label& command) {
         platform::setAccessibleText(command, {QAccessible::Button,
                                               [&command] { return captionOf(command); },
-                                              [] { return QString(text::kCommandDescription); },
+                                              [] { return said(text::kCommandDescription); },
                                               [this, i] { runCommand(i); },
                                               {}});
     });
@@ -58,7 +64,7 @@ void Board::describeControls() {
     for (const auto& [label, meaning, role] : readOuts) {
         platform::setAccessibleText(*label, {role,
                                              [label = label] { return captionOf(*label); },
-                                             [meaning = meaning] { return QString(meaning); },
+                                             [meaning = meaning] { return said(meaning); },
                                              {},
                                              {}});
     }
@@ -67,14 +73,14 @@ void Board::describeControls() {
     const int n = layout_.n;
     Image1.forEach([this, n](int c, platform::PictureBox& cell) {
         auto name = [this, n, c] {
-            QString said = QString(text::kCellName).arg(c / n + 1).arg(c % n + 1);
+            QString cellName = said(text::kCellName).arg(c / n + 1).arg(c % n + 1);
             for (int p = 0; p < n * n; ++p) {
-                if (samePlace(Image2(p), Image1(c))) return said + spokenPicture(p);
+                if (samePlace(Image2(p), Image1(c))) return cellName + spokenPicture(p);
             }
-            return said + text::kEmptyCell;
+            return cellName + said(text::kEmptyCell);
         };
         auto description = [this, n, c] {
-            return QString(game_.given[c % n][c / n] == 1 ? text::kGivenCell : text::kCell);
+            return said(game_.given[c % n][c / n] == 1 ? text::kGivenCell : text::kCell);
         };
         platform::setAccessibleText(
             cell, {QAccessible::Cell, name, description, [this, c] { chooseCell(c); }, {}, true});
@@ -84,16 +90,16 @@ void Board::describeControls() {
     // copy it is.
     Image2.forEach([this, n](int k, platform::PictureBox& piece) {
         auto name = [this, n, k] {
-            return QString(text::kPieceName).arg(spokenPicture(k)).arg(k % n + 1).arg(n);
+            return said(text::kPieceName).arg(spokenPicture(k)).arg(k % n + 1).arg(n);
         };
         auto where = [this, n, k] {
-            if (!Image2(k).Enabled()) return QString(text::kGivenCell);
-            if (samePlace(Image2(k), Image3(k))) return QString(text::kPieceInTray);
+            if (!Image2(k).Enabled()) return said(text::kGivenCell);
+            if (samePlace(Image2(k), Image3(k))) return said(text::kPieceInTray);
             for (int c = 0; c < n * n; ++c) {
                 if (samePlace(Image2(k), Image1(c)))
-                    return QString(text::kPieceOnCell).arg(c / n + 1).arg(c % n + 1);
+                    return said(text::kPieceOnCell).arg(c / n + 1).arg(c % n + 1);
             }
-            return QString(text::kPieceOffCells);
+            return said(text::kPieceOffCells);
         };
         // A press does what Enter does with the ring on the piece.
         auto press = [this, n, k] {
@@ -107,10 +113,10 @@ void Board::describeControls() {
 
     describeEach(Image3, [this](int slot, platform::PictureBox& place) {
         auto name = [this, slot] {
-            const QString said = QString(text::kTrayPlaceName).arg(slot + 1);
+            const QString placeName = said(text::kTrayPlaceName).arg(slot + 1);
             const int piece = picking_.pieceAtHome(slot);
-            return said + (piece == engine::Picking::kNone ? QString(text::kEmptyCell)
-                                                           : spokenPicture(piece));
+            return placeName + (piece == engine::Picking::kNone ? said(text::kEmptyCell)
+                                                                : spokenPicture(piece));
         };
         platform::setAccessibleText(
             place, {QAccessible::Cell, name, {}, [this, slot] { chooseSlot(slot); }, {}, true});
@@ -119,13 +125,15 @@ void Board::describeControls() {
     const auto sets = tables::catalogue(layout_.boardsize);
     Image4.forEach([this, &sets](int i, platform::PictureBox& thumbnail) {
         if (i >= sets.size()) return platform::setDecorative(thumbnail);  // the 4x4 logo
-        platform::setAccessibleText(thumbnail,
-                                    {QAccessible::Button,
-                                     [kind = sets[i].kind] { return tables::setName(kind); },
-                                     [] { return QString(text::kThumbnailDescription); },
-                                     [this, i] { runCommand(kThumbnail + i); },
-                                     {},
-                                     true});
+        platform::setAccessibleText(thumbnail, {QAccessible::Button,
+                                                [kind = sets[i].kind] {
+                                                    return platform::translated(
+                                                        "Pictures", tables::setName(kind));
+                                                },
+                                                [] { return said(text::kThumbnailDescription); },
+                                                [this, i] { runCommand(kThumbnail + i); },
+                                                {},
+                                                true});
     });
 
     if (Image6) platform::setDecorative(*Image6);
@@ -134,7 +142,7 @@ void Board::describeControls() {
     Shape1.forEach([](int, platform::Shape& region) { platform::setDecorative(region); });
     platform::setDecorative(*pickMark_);
     platform::setDecorative(*ringMark_);
-    setAccessibleName(QString(text::kBoardName).arg(n));
+    setAccessibleName(said(text::kBoardName).arg(n));
 }
 
 // The control the ring stands on as a screen reader should hear it: in the

@@ -3,7 +3,7 @@
 #
 #   package_deb.sh <build folder> <output folder> <app id>
 #
-# the program, pictures, sounds, menu entry, icons, metadata and manual page
+# the program, pictures, sounds, translations, menu entry, icons, metadata and manual page
 # at Debian's places for games, filled for /usr, and Depends worked out from
 # the libraries the program links; and Debian's own checks (lintian) find no
 # error and no warning in it.
@@ -41,6 +41,12 @@ for file in ./usr/games/pimbalo "./usr/lib/$multiarch/pimbalo/pimbalo-sound.so" 
     "./usr/share/metainfo/$id.metainfo.xml" \
     ./usr/share/man/man6/pimbalo.6.gz \
     ./usr/share/doc/pimbalo/copyright; do
+    grep -qxF "$file" <<<"$listing" || fail "the package lacks $file"
+done
+# Every translation the build made goes with the pictures and sounds.
+for qm in "$build"/game/translations/pimbalo_*.qm; do
+    [[ -e $qm ]] || continue
+    file=./usr/share/games/pimbalo/translations/${qm##*/}
     grep -qxF "$file" <<<"$listing" || fail "the package lacks $file"
 done
 if grep -E '\.inf$|^\./usr/(bin|local)/' <<<"$listing"; then fail "the package holds files it must not"; fi
