@@ -134,6 +134,34 @@
         <source>Grid cell</source>
         <translation>Feld</translation>
     </message>
+    <message>
+        <source>Correct in %1 seconds!!!</source>
+        <translation>Cool! In %1 Sekunden!!!</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <translation>%1, %2 von %3</translation>
+    </message>
+    <message>
+        <source>In the tray</source>
+        <translation>In der Ablage</translation>
+    </message>
+    <message>
+        <source>On row %1, column %2</source>
+        <translation>In Reihe %1, Spalte %2</translation>
+    </message>
+    <message>
+        <source>Not on a cell</source>
+        <translation>Auf keinem Feld</translation>
+    </message>
+    <message>
+        <source>Tray place %1: </source>
+        <translation>Ablageplatz %1: </translation>
+    </message>
+    <message>
+        <source>Starts a new puzzle with these pictures</source>
+        <translation>Startet ein neues Rätsel mit diesen Bildern</translation>
+    </message>
 </context>
 <context>
     <name>Common</name>
@@ -523,6 +551,66 @@
         <location filename="../tables/pictures.cpp" line="139"/>
         <source>letter F</source>
         <translation>Buchstabe F</translation>
+    </message>
+    <message>
+        <source>happy yellow face with a curl</source>
+        <translation>fröhliches gelbes Gesicht mit Locke</translation>
+    </message>
+    <message>
+        <source>smiling green frog</source>
+        <translation>lächelnder grüner Frosch</translation>
+    </message>
+    <message>
+        <source>face with a big moustache and a hat</source>
+        <translation>Gesicht mit großem Schnurrbart und Hut</translation>
+    </message>
+    <message>
+        <source>grumpy purple monster with spiky hair</source>
+        <translation>grummeliges lila Monster mit Stachelhaaren</translation>
+    </message>
+    <message>
+        <source>fluffy orange cat</source>
+        <translation>flauschige orange Katze</translation>
+    </message>
+    <message>
+        <source>Pictures: polyhedra</source>
+        <translation>Bilder: Polyeder</translation>
+    </message>
+    <message>
+        <source>Pictures: cards</source>
+        <translation>Bilder: Spielkarten</translation>
+    </message>
+    <message>
+        <source>Pictures: dice</source>
+        <translation>Bilder: Würfel</translation>
+    </message>
+    <message>
+        <source>Pictures: faces</source>
+        <translation>Bilder: Gesichter</translation>
+    </message>
+    <message>
+        <source>Pictures: flags</source>
+        <translation>Bilder: Flaggen</translation>
+    </message>
+    <message>
+        <source>Pictures: patterns</source>
+        <translation>Bilder: Muster</translation>
+    </message>
+    <message>
+        <source>Pictures: shapes</source>
+        <translation>Bilder: Formen</translation>
+    </message>
+    <message>
+        <source>Pictures: vehicles</source>
+        <translation>Bilder: Fahrzeuge</translation>
+    </message>
+    <message>
+        <source>Pictures: numbers</source>
+        <translation>Bilder: Zahlen</translation>
+    </message>
+    <message>
+        <source>Pictures: letters</source>
+        <translation>Bilder: Buchstaben</translation>
     </message>
 </context>
 <context>

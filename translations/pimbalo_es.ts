@@ -134,6 +134,34 @@
         <source>Grid cell</source>
         <translation>Casilla</translation>
     </message>
+    <message>
+        <source>Correct in %1 seconds!!!</source>
+        <translation>Correcto: ¡%1 segundos!</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <translation>%1, %2 de %3</translation>
+    </message>
+    <message>
+        <source>In the tray</source>
+        <translation>En la bandeja</translation>
+    </message>
+    <message>
+        <source>On row %1, column %2</source>
+        <translation>En la fila %1, columna %2</translation>
+    </message>
+    <message>
+        <source>Not on a cell</source>
+        <translation>En ninguna casilla</translation>
+    </message>
+    <message>
+        <source>Tray place %1: </source>
+        <translation>Casilla %1 de la bandeja: </translation>
+    </message>
+    <message>
+        <source>Starts a new puzzle with these pictures</source>
+        <translation>Empieza un puzle nuevo con estos dibujos</translation>
+    </message>
 </context>
 <context>
     <name>Common</name>
@@ -523,6 +551,66 @@
         <location filename="../tables/pictures.cpp" line="139"/>
         <source>letter F</source>
         <translation>letra F</translation>
+    </message>
+    <message>
+        <source>happy yellow face with a curl</source>
+        <translation>cara amarilla feliz con un rizo</translation>
+    </message>
+    <message>
+        <source>smiling green frog</source>
+        <translation>rana verde sonriente</translation>
+    </message>
+    <message>
+        <source>face with a big moustache and a hat</source>
+        <translation>cara con un gran bigote y un sombrero</translation>
+    </message>
+    <message>
+        <source>grumpy purple monster with spiky hair</source>
+        <translation>monstruo morado gruñón con el pelo de punta</translation>
+    </message>
+    <message>
+        <source>fluffy orange cat</source>
+        <translation>gato naranja peludito</translation>
+    </message>
+    <message>
+        <source>Pictures: polyhedra</source>
+        <translation>Dibujos: poliedros</translation>
+    </message>
+    <message>
+        <source>Pictures: cards</source>
+        <translation>Dibujos: cartas</translation>
+    </message>
+    <message>
+        <source>Pictures: dice</source>
+        <translation>Dibujos: dados</translation>
+    </message>
+    <message>
+        <source>Pictures: faces</source>
+        <translation>Dibujos: caras</translation>
+    </message>
+    <message>
+        <source>Pictures: flags</source>
+        <translation>Dibujos: banderas</translation>
+    </message>
+    <message>
+        <source>Pictures: patterns</source>
+        <translation>Dibujos: estampados</translation>
+    </message>
+    <message>
+        <source>Pictures: shapes</source>
+        <translation>Dibujos: formas</translation>
+    </message>
+    <message>
+        <source>Pictures: vehicles</source>
+        <translation>Dibujos: vehículos</translation>
+    </message>
+    <message>
+        <source>Pictures: numbers</source>
+        <translation>Dibujos: números</translation>
+    </message>
+    <message>
+        <source>Pictures: letters</source>
+        <translation>Dibujos: letras</translation>
     </message>
 </context>
 <context>

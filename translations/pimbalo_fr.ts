@@ -134,6 +134,34 @@
         <source>Grid cell</source>
         <translation>Case</translation>
     </message>
+    <message>
+        <source>Correct in %1 seconds!!!</source>
+        <translation>C’est fini : %1 secondes !</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <translation>%1, %2 sur %3</translation>
+    </message>
+    <message>
+        <source>In the tray</source>
+        <translation>Dans la réserve</translation>
+    </message>
+    <message>
+        <source>On row %1, column %2</source>
+        <translation>Sur la ligne %1, colonne %2</translation>
+    </message>
+    <message>
+        <source>Not on a cell</source>
+        <translation>Sur aucune case</translation>
+    </message>
+    <message>
+        <source>Tray place %1: </source>
+        <translation>Place %1 de la réserve : </translation>
+    </message>
+    <message>
+        <source>Starts a new puzzle with these pictures</source>
+        <translation>Commence un nouveau jeu avec ces images</translation>
+    </message>
 </context>
 <context>
     <name>Common</name>
@@ -523,6 +551,66 @@
         <location filename="../tables/pictures.cpp" line="139"/>
         <source>letter F</source>
         <translation>lettre F</translation>
+    </message>
+    <message>
+        <source>happy yellow face with a curl</source>
+        <translation>visage jaune joyeux avec une boucle</translation>
+    </message>
+    <message>
+        <source>smiling green frog</source>
+        <translation>grenouille verte qui sourit</translation>
+    </message>
+    <message>
+        <source>face with a big moustache and a hat</source>
+        <translation>visage avec une grosse moustache et un chapeau</translation>
+    </message>
+    <message>
+        <source>grumpy purple monster with spiky hair</source>
+        <translation>monstre violet grognon aux cheveux en pointes</translation>
+    </message>
+    <message>
+        <source>fluffy orange cat</source>
+        <translation>chat orange tout doux</translation>
+    </message>
+    <message>
+        <source>Pictures: polyhedra</source>
+        <translation>Images : polyèdres</translation>
+    </message>
+    <message>
+        <source>Pictures: cards</source>
+        <translation>Images : cartes</translation>
+    </message>
+    <message>
+        <source>Pictures: dice</source>
+        <translation>Images : dés</translation>
+    </message>
+    <message>
+        <source>Pictures: faces</source>
+        <translation>Images : visages</translation>
+    </message>
+    <message>
+        <source>Pictures: flags</source>
+        <translation>Images : drapeaux</translation>
+    </message>
+    <message>
+        <source>Pictures: patterns</source>
+        <translation>Images : motifs</translation>
+    </message>
+    <message>
+        <source>Pictures: shapes</source>
+        <translation>Images : formes</translation>
+    </message>
+    <message>
+        <source>Pictures: vehicles</source>
+        <translation>Images : véhicules</translation>
+    </message>
+    <message>
+        <source>Pictures: numbers</source>
+        <translation>Images : chiffres</translation>
+    </message>
+    <message>
+        <source>Pictures: letters</source>
+        <translation>Images : lettres</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,34 @@
         <source>Grid cell</source>
         <translation>Casella</translation>
     </message>
+    <message>
+        <source>Correct in %1 seconds!!!</source>
+        <translation>Corretto in %1 secondi!!!</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <translation>%1, %2 di %3</translation>
+    </message>
+    <message>
+        <source>In the tray</source>
+        <translation>Nel vassoio</translation>
+    </message>
+    <message>
+        <source>On row %1, column %2</source>
+        <translation>Nella riga %1, colonna %2</translation>
+    </message>
+    <message>
+        <source>Not on a cell</source>
+        <translation>Su nessuna casella</translation>
+    </message>
+    <message>
+        <source>Tray place %1: </source>
+        <translation>Casella %1 del vassoio: </translation>
+    </message>
+    <message>
+        <source>Starts a new puzzle with these pictures</source>
+        <translation>Inizia un nuovo gioco con queste figure</translation>
+    </message>
 </context>
 <context>
     <name>Common</name>
@@ -523,6 +551,66 @@
         <location filename="../tables/pictures.cpp" line="139"/>
         <source>letter F</source>
         <translation>lettera F</translation>
+    </message>
+    <message>
+        <source>happy yellow face with a curl</source>
+        <translation>faccina gialla felice con un ricciolo</translation>
+    </message>
+    <message>
+        <source>smiling green frog</source>
+        <translation>rana verde sorridente</translation>
+    </message>
+    <message>
+        <source>face with a big moustache and a hat</source>
+        <translation>faccia con grandi baffi e un cappello</translation>
+    </message>
+    <message>
+        <source>grumpy purple monster with spiky hair</source>
+        <translation>mostro viola brontolone con i capelli a punta</translation>
+    </message>
+    <message>
+        <source>fluffy orange cat</source>
+        <translation>gatto arancione morbidoso</translation>
+    </message>
+    <message>
+        <source>Pictures: polyhedra</source>
+        <translation>Figure: poliedri</translation>
+    </message>
+    <message>
+        <source>Pictures: cards</source>
+        <translation>Figure: carte</translation>
+    </message>
+    <message>
+        <source>Pictures: dice</source>
+        <translation>Figure: dadi</translation>
+    </message>
+    <message>
+        <source>Pictures: faces</source>
+        <translation>Figure: facce</translation>
+    </message>
+    <message>
+        <source>Pictures: flags</source>
+        <translation>Figure: bandiere</translation>
+    </message>
+    <message>
+        <source>Pictures: patterns</source>
+        <translation>Figure: motivi</translation>
+    </message>
+    <message>
+        <source>Pictures: shapes</source>
+        <translation>Figure: forme</translation>
+    </message>
+    <message>
+        <source>Pictures: vehicles</source>
+        <translation>Figure: veicoli</translation>
+    </message>
+    <message>
+        <source>Pictures: numbers</source>
+        <translation>Figure: numeri</translation>
+    </message>
+    <message>
+        <source>Pictures: letters</source>
+        <translation>Figure: lettere</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,34 @@
         <source>Grid cell</source>
         <translation>Vakje</translation>
     </message>
+    <message>
+        <source>Correct in %1 seconds!!!</source>
+        <translation>Correct in %1 seconden!!!</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <translation>%1, %2 van %3</translation>
+    </message>
+    <message>
+        <source>In the tray</source>
+        <translation>In het bakje</translation>
+    </message>
+    <message>
+        <source>On row %1, column %2</source>
+        <translation>Op rij %1, kolom %2</translation>
+    </message>
+    <message>
+        <source>Not on a cell</source>
+        <translation>Niet op een vakje</translation>
+    </message>
+    <message>
+        <source>Tray place %1: </source>
+        <translation>Plek %1 in het bakje: </translation>
+    </message>
+    <message>
+        <source>Starts a new puzzle with these pictures</source>
+        <translation>Begint een nieuwe puzzel met deze plaatjes</translation>
+    </message>
 </context>
 <context>
     <name>Common</name>
@@ -523,6 +551,66 @@
         <location filename="../tables/pictures.cpp" line="139"/>
         <source>letter F</source>
         <translation>letter F</translation>
+    </message>
+    <message>
+        <source>happy yellow face with a curl</source>
+        <translation>vrolijk geel gezicht met een krul</translation>
+    </message>
+    <message>
+        <source>smiling green frog</source>
+        <translation>lachende groene kikker</translation>
+    </message>
+    <message>
+        <source>face with a big moustache and a hat</source>
+        <translation>gezicht met een grote snor en een hoed</translation>
+    </message>
+    <message>
+        <source>grumpy purple monster with spiky hair</source>
+        <translation>chagrijnig paars monster met stekelhaar</translation>
+    </message>
+    <message>
+        <source>fluffy orange cat</source>
+        <translation>pluizige oranje kat</translation>
+    </message>
+    <message>
+        <source>Pictures: polyhedra</source>
+        <translation>Plaatjes: veelvlakken</translation>
+    </message>
+    <message>
+        <source>Pictures: cards</source>
+        <translation>Plaatjes: kaarten</translation>
+    </message>
+    <message>
+        <source>Pictures: dice</source>
+        <translation>Plaatjes: dobbelstenen</translation>
+    </message>
+    <message>
+        <source>Pictures: faces</source>
+        <translation>Plaatjes: gezichten</translation>
+    </message>
+    <message>
+        <source>Pictures: flags</source>
+        <translation>Plaatjes: vlaggen</translation>
+    </message>
+    <message>
+        <source>Pictures: patterns</source>
+        <translation>Plaatjes: patronen</translation>
+    </message>
+    <message>
+        <source>Pictures: shapes</source>
+        <translation>Plaatjes: vormen</translation>
+    </message>
+    <message>
+        <source>Pictures: vehicles</source>
+        <translation>Plaatjes: voertuigen</translation>
+    </message>
+    <message>
+        <source>Pictures: numbers</source>
+        <translation>Plaatjes: cijfers</translation>
+    </message>
+    <message>
+        <source>Pictures: letters</source>
+        <translation>Plaatjes: letters</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,34 @@
         <source>Grid cell</source>
         <translation>Pole</translation>
     </message>
+    <message>
+        <source>Correct in %1 seconds!!!</source>
+        <translation>Cudownie! %1 sekund!!!</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <translation>%1, %2 z %3</translation>
+    </message>
+    <message>
+        <source>In the tray</source>
+        <translation>Na tacce</translation>
+    </message>
+    <message>
+        <source>On row %1, column %2</source>
+        <translation>W wierszu %1, kolumnie %2</translation>
+    </message>
+    <message>
+        <source>Not on a cell</source>
+        <translation>Poza polami</translation>
+    </message>
+    <message>
+        <source>Tray place %1: </source>
+        <translation>Miejsce %1 na tacce: </translation>
+    </message>
+    <message>
+        <source>Starts a new puzzle with these pictures</source>
+        <translation>Zaczyna nową zagadkę z tymi obrazkami</translation>
+    </message>
 </context>
 <context>
     <name>Common</name>
@@ -523,6 +551,66 @@
         <location filename="../tables/pictures.cpp" line="139"/>
         <source>letter F</source>
         <translation>litera F</translation>
+    </message>
+    <message>
+        <source>happy yellow face with a curl</source>
+        <translation>wesoła żółta buzia z lokiem</translation>
+    </message>
+    <message>
+        <source>smiling green frog</source>
+        <translation>uśmiechnięta zielona żabka</translation>
+    </message>
+    <message>
+        <source>face with a big moustache and a hat</source>
+        <translation>twarz z dużymi wąsami i kapeluszem</translation>
+    </message>
+    <message>
+        <source>grumpy purple monster with spiky hair</source>
+        <translation>marudny fioletowy potworek z nastroszonymi włosami</translation>
+    </message>
+    <message>
+        <source>fluffy orange cat</source>
+        <translation>puszysty rudy kotek</translation>
+    </message>
+    <message>
+        <source>Pictures: polyhedra</source>
+        <translation>Obrazki: wielościany</translation>
+    </message>
+    <message>
+        <source>Pictures: cards</source>
+        <translation>Obrazki: karty</translation>
+    </message>
+    <message>
+        <source>Pictures: dice</source>
+        <translation>Obrazki: kostki</translation>
+    </message>
+    <message>
+        <source>Pictures: faces</source>
+        <translation>Obrazki: buzie</translation>
+    </message>
+    <message>
+        <source>Pictures: flags</source>
+        <translation>Obrazki: flagi</translation>
+    </message>
+    <message>
+        <source>Pictures: patterns</source>
+        <translation>Obrazki: wzory</translation>
+    </message>
+    <message>
+        <source>Pictures: shapes</source>
+        <translation>Obrazki: kształty</translation>
+    </message>
+    <message>
+        <source>Pictures: vehicles</source>
+        <translation>Obrazki: pojazdy</translation>
+    </message>
+    <message>
+        <source>Pictures: numbers</source>
+        <translation>Obrazki: cyfry</translation>
+    </message>
+    <message>
+        <source>Pictures: letters</source>
+        <translation>Obrazki: litery</translation>
     </message>
 </context>
 <context>

@@ -134,6 +134,34 @@
         <source>Grid cell</source>
         <translation>Casa</translation>
     </message>
+    <message>
+        <source>Correct in %1 seconds!!!</source>
+        <translation>Certo em %1 segundos!!!</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3</source>
+        <translation>%1, %2 de %3</translation>
+    </message>
+    <message>
+        <source>In the tray</source>
+        <translation>Na bandeja</translation>
+    </message>
+    <message>
+        <source>On row %1, column %2</source>
+        <translation>Na linha %1, coluna %2</translation>
+    </message>
+    <message>
+        <source>Not on a cell</source>
+        <translation>Fora das casas</translation>
+    </message>
+    <message>
+        <source>Tray place %1: </source>
+        <translation>Casa %1 da bandeja: </translation>
+    </message>
+    <message>
+        <source>Starts a new puzzle with these pictures</source>
+        <translation>Começa um novo desafio com estas figuras</translation>
+    </message>
 </context>
 <context>
     <name>Common</name>
@@ -523,6 +551,66 @@
         <location filename="../tables/pictures.cpp" line="139"/>
         <source>letter F</source>
         <translation>letra F</translation>
+    </message>
+    <message>
+        <source>happy yellow face with a curl</source>
+        <translation>rosto amarelo feliz com um cachinho</translation>
+    </message>
+    <message>
+        <source>smiling green frog</source>
+        <translation>sapo verde sorridente</translation>
+    </message>
+    <message>
+        <source>face with a big moustache and a hat</source>
+        <translation>rosto com um bigodão e um chapéu</translation>
+    </message>
+    <message>
+        <source>grumpy purple monster with spiky hair</source>
+        <translation>monstro roxo rabugento de cabelo espetado</translation>
+    </message>
+    <message>
+        <source>fluffy orange cat</source>
+        <translation>gato laranja fofinho</translation>
+    </message>
+    <message>
+        <source>Pictures: polyhedra</source>
+        <translation>Figuras: poliedros</translation>
+    </message>
+    <message>
+        <source>Pictures: cards</source>
+        <translation>Figuras: cartas</translation>
+    </message>
+    <message>
+        <source>Pictures: dice</source>
+        <translation>Figuras: dados</translation>
+    </message>
+    <message>
+        <source>Pictures: faces</source>
+        <translation>Figuras: rostos</translation>
+    </message>
+    <message>
+        <source>Pictures: flags</source>
+        <translation>Figuras: bandeiras</translation>
+    </message>
+    <message>
+        <source>Pictures: patterns</source>
+        <translation>Figuras: padrões</translation>
+    </message>
+    <message>
+        <source>Pictures: shapes</source>
+        <translation>Figuras: formas</translation>
+    </message>
+    <message>
+        <source>Pictures: vehicles</source>
+        <translation>Figuras: veículos</translation>
+    </message>
+    <message>
+        <source>Pictures: numbers</source>
+        <translation>Figuras: números</translation>
+    </message>
+    <message>
+        <source>Pictures: letters</source>
+        <translation>Figuras: letras</translation>
     </message>
 </context>
 <context>
