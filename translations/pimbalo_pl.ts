@@ -72,12 +72,12 @@
     <message>
         <location filename="../tables/texts.h" line="88"/>
         <source>Correct in </source>
-        <translation>Cudownie! </translation>
+        <translation>Cudownie! Czas: </translation>
     </message>
     <message>
         <location filename="../tables/texts.h" line="89"/>
         <source> seconds!!!</source>
-        <translation> sekund!!!</translation>
+        <translation> sek.</translation>
     </message>
     <message>
         <location filename="../tables/texts.h" line="90"/>
@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>Correct in %1 seconds!!!</source>
-        <translation>Cudownie! %1 sekund!!!</translation>
+        <translation>Cudownie! Czas: %1 sek.</translation>
     </message>
     <message>
         <source>%1, %2 of %3</source>
