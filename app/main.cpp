@@ -7,6 +7,7 @@
 #include "platform/display_server.h"
 #include "platform/form.h"
 #include "platform/sound.h"
+#include "platform/translation.h"
 #include "records/highscores.h"
 #include "shell/register.h"
 #include "shell/titlefrm.h"
@@ -19,7 +20,10 @@ int main(int argc, char* argv[]) {
     // screen's "Exit" brings it back); only "Exit" ends the game.
     QApplication::setQuitOnLastWindowClosed(false);
     const app::Surroundings around = app::surroundings();
-    app::settle(around);
+    const app::RunFolders folders = app::settle(around);
+    // The desktop's language, when the game has it; the translations lie
+    // beside the pictures and sounds.
+    platform::installTranslation(folders.data + QStringLiteral("/translations"));
     platform::setSoundModule(app::soundModule(around));
     QApplication::setWindowIcon(app::gameIcon());
 

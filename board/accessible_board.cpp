@@ -3,6 +3,7 @@
 // their captions, and each grid cell its row, column and picture.
 #include "board/board_screen.h"
 #include "platform/accessible.h"
+#include "platform/translation.h"
 #include "tables/pictures.h"
 #include "tables/texts.h"
 
@@ -11,8 +12,13 @@ namespace {
 
 namespace text = tables::board_text;
 
+// What the label shows, in the player's language.
 QString captionOf(const platform::Label& label) {
-    return QString::fromStdString(label.Caption());
+    return label.text();
+}
+
+QString said(const char* text) {
+    return platform::translated("Board", text);
 }
 
 }  // namespace
@@ -22,7 +28,7 @@ void Board::describeControls() {
         platform::setAccessibleText(
             command,
             {QAccessible::Button, [&command] { return captionOf(command); },
-             [] { return QString(text::kCommandDescription); }, [this, i] { runCommand(i); }});
+             [] { return said(text::kCommandDescription); }, [this, i] { runCommand(i); }});
     });
     const std::pair<platform::Label*, const char*> readOuts[] = {
         {&Label1(0), text::kLevelDescription},
@@ -32,7 +38,7 @@ void Board::describeControls() {
     for (const auto& [label, meaning] : readOuts) {
         platform::setAccessibleText(*label, {QAccessible::StaticText,
                                              [label = label] { return captionOf(*label); },
-                                             [meaning = meaning] { return QString(meaning); },
+                                             [meaning = meaning] { return said(meaning); },
                                              {}});
     }
 
@@ -40,21 +46,22 @@ void Board::describeControls() {
     const int n = layout_.n;
     Image1.forEach([this, n](int c, platform::PictureBox& cell) {
         auto name = [this, n, c] {
-            QString said = QString(text::kCellName).arg(c / n + 1).arg(c % n + 1);
+            QString cellName = said(text::kCellName).arg(c / n + 1).arg(c % n + 1);
             for (int p = 0; p < n * n; ++p) {
                 if (Image2(p).Left() != Image1(c).Left() || Image2(p).Top() != Image1(c).Top())
                     continue;
                 const auto& set = tables::catalogue(layout_.boardsize)[pictureset];
-                return said + tables::pictureName(set.kind, p / n);
+                return cellName +
+                       platform::translated("Pictures", tables::pictureName(set.kind, p / n));
             }
-            return said + text::kEmptyCell;
+            return cellName + said(text::kEmptyCell);
         };
         auto description = [this, n, c] {
-            return QString(game_.given[c % n][c / n] == 1 ? text::kGivenCell : text::kCell);
+            return said(game_.given[c % n][c / n] == 1 ? text::kGivenCell : text::kCell);
         };
         platform::setAccessibleText(cell, {QAccessible::Cell, name, description, {}});
     });
-    setAccessibleName(QString(text::kBoardName).arg(n));
+    setAccessibleName(said(text::kBoardName).arg(n));
 }
 
 }  // namespace board

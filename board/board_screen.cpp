@@ -3,11 +3,13 @@
 #include <string>
 
 #include "board/marks.h"
+#include "platform/translation.h"
 #include "records/fastest_times.h"
 #include "records/highscores.h"
 #include "shell/common.h"
 #include "shell/module1.h"
 #include "tables/pictures.h"
+#include "tables/texts.h"
 
 namespace board {
 namespace {
@@ -342,6 +344,14 @@ std::string Board::caption(engine::Lab which) const {
     return label(which).Caption();
 }
 void Board::setCaption(engine::Lab which, const std::string& text) {
+    // The timed congratulation is shown as the translated pattern with the
+    // clock's seconds; the engine keeps reading back the English.
+    const std::string seconds = which == engine::Lab::Label7 ? Label2(1).Caption() : "";
+    if (which == engine::Lab::Label7 && text == engine::correctIn(seconds)) {
+        Label7->setCaption(text, platform::translated("Board", tables::board_text::kCorrectIn)
+                                     .arg(QString::fromStdString(seconds)));
+        return;
+    }
     label(which).setCaption(text);
 }
 void Board::setVisible(engine::Lab which, bool visible) {

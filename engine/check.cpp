@@ -22,6 +22,11 @@ const char* failureMessage(RegionKind kind) {
 
 }  // namespace
 
+std::string correctIn(const std::string& shownSeconds) {
+    std::string message = text::kCorrectIn;
+    return message.replace(message.find("%1"), 2, shownSeconds);
+}
+
 void Game::checkanswer(const Options& opt) {
     const int size = n();
     const std::vector<Position> cells = positions(Pic::Image1);
@@ -46,8 +51,7 @@ void Game::checkanswer(const Options& opt) {
     if (opt.timerson == 0) {
         view_.setCaption(Lab::Label7, text::kCorrect);
     } else {
-        view_.setCaption(Lab::Label7, text::kCorrectInBefore + view_.caption(Lab::Label2_1) +
-                                          text::kCorrectInAfter);
+        view_.setCaption(Lab::Label7, correctIn(view_.caption(Lab::Label2_1)));
     }
     for (RegionKind kind : table().testedKinds) {
         for (const Region& region : regionsOfKind(table(), kind)) {

@@ -83,4 +83,8 @@ class Game {
     RandomSource& rnd_;
 };
 
+// The congratulation with the time: the clock's display as it reads,
+// digits and all, in place of the pattern's "%1".
+std::string correctIn(const std::string& shownSeconds);
+
 }  // namespace engine

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "platform/files.h"
+#include "platform/translation.h"
 
 namespace platform {
 
@@ -103,6 +104,20 @@ void PictureBox::paintEvent(QPaintEvent*) {
         p.setPen(QPen(frameColor_, 1));
         p.drawRect(rect().adjusted(0, 0, -1, -1));
     }
+}
+
+void Label::setCaption(const std::string& text) {
+    setCaption(text, translatedFor(*this, QString::fromStdString(text)));
+}
+
+void Label::setCaption(const std::string& text, const QString& shown) {
+    caption_ = text;
+    shown_ = shown;
+    setText(shown);
+}
+
+std::string Label::Caption() const {
+    return text() == shown_ ? caption_ : text().toStdString();
 }
 
 void Label::setLook(const LabelLook& look) {

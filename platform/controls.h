@@ -147,14 +147,20 @@ class Label : public Clickable<QLabel> {
   public:
     explicit Label(QWidget* parent) : Clickable<QLabel>(parent) {}
     void setLook(const LabelLook& look);
-    void setCaption(const std::string& text) { setText(QString::fromStdString(text)); }
-    std::string Caption() const { return text().toStdString(); }
+    // The caption is the English text; the label shows its translation.
+    void setCaption(const std::string& text);
+    // A caption whose shown form the caller has put together itself (a
+    // translated pattern with a number filled in).
+    void setCaption(const std::string& text, const QString& shown);
+    std::string Caption() const;
     void setForeColor(const QColor& c);
     void setBackColor(const QColor& c);
     QColor BackColor() const { return look_.backColor; }
 
   private:
     LabelLook look_;
+    std::string caption_;
+    QString shown_;  // what setCaption showed; a text set otherwise is its own caption
 };
 
 // A filled rectangle (the coloured regions behind a board's grid).

@@ -7,6 +7,7 @@
 
 #include "platform/form.h"
 #include "platform/timer.h"
+#include "platform/translation.h"
 #include "tables/texts.h"
 
 namespace platform {
@@ -40,12 +41,12 @@ void fatalFileError(const QString& path, const QString& reason) {
     // The message box below runs its own event loop: no clock may tick and
     // no answer check may run under it.
     stopAllTimers();
-    const QString message = QString(tables::error_text::kCannotGoOn).arg(path, reason);
+    const QString message = translated("Error", tables::error_text::kCannotGoOn).arg(path, reason);
     if (handler()) handler()(message);
     std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) &&
         QGuiApplication::platformName() != QLatin1String("offscreen")) {
-        QMessageBox::critical(nullptr, tables::error_text::kTitle, message);
+        QMessageBox::critical(nullptr, translated("Error", tables::error_text::kTitle), message);
     }
     endAfterError();
 }

@@ -8,6 +8,7 @@
 #include <QImageReader>
 
 #include "platform/fatal.h"
+#include "platform/translation.h"
 #include "tables/texts.h"
 
 namespace platform {
@@ -97,7 +98,7 @@ std::optional<QString> findFileBelow(const QString& folder, const std::string& r
 QPixmap loadPicture(const std::string& relativePath, QSize boxPixels) {
     const auto file = findGameFile(relativePath);
     const QString shown = QString::fromStdString(relativePath);
-    if (!file) fatalFileError(shown, QString(tables::error_text::kNotFound));
+    if (!file) fatalFileError(shown, translated("Error", tables::error_text::kNotFound));
     QString error;
     QPixmap pixmap = cachedPicture(*file, boxPixels, &error);
     if (pixmap.isNull()) fatalFileError(shown, error);
@@ -117,7 +118,7 @@ QCursor loadCursor(const std::string& relativePath) {
     static QHash<QString, QCursor> cursors;
     const auto file = findGameFile(relativePath);
     const QString shown = QString::fromStdString(relativePath);
-    if (!file) fatalFileError(shown, QString(tables::error_text::kNotFound));
+    if (!file) fatalFileError(shown, translated("Error", tables::error_text::kNotFound));
     const QString key = QFileInfo(*file).absoluteFilePath();
     auto cached = cursors.constFind(key);
     if (cached != cursors.constEnd()) return *cached;
@@ -133,7 +134,7 @@ QCursor loadCursor(const std::string& relativePath) {
                static_cast<int>(static_cast<unsigned char>(header[at + 1])) << 8;
     };
     if (header.size() < 22 || word(0) != 0 || word(2) != 2 || word(4) < 1)
-        fatalFileError(shown, QString(tables::error_text::kNotACursor));
+        fatalFileError(shown, translated("Error", tables::error_text::kNotACursor));
     QImageReader reader(*file, "cur");
     const QImage image = reader.read();
     if (image.isNull()) fatalFileError(shown, reader.errorString());

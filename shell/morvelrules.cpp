@@ -1,5 +1,6 @@
 #include "shell/morvelrules.h"
 
+#include "platform/translation.h"
 #include "shell/common.h"
 #include "shell/looks.h"
 #include "shell/module1.h"
@@ -32,7 +33,7 @@ void Morvelrules::buildLayout() {
     for (int k = 0; k < 3; ++k) {
         auto* option = new platform::OptionButton(this);
         option->setBounds(360, optionTops[k], 2295, 495);
-        option->setText(rulesPage(k).heading);
+        option->setText(platform::translated("Rules", rulesPage(k).heading));
         styleBlueOnWhite(*option, designFont("Arial", 15.75, true));
         Option1.add(k, option);
     }

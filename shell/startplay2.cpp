@@ -1,6 +1,7 @@
 #include "shell/startplay2.h"
 
 #include "platform/desktop.h"
+#include "platform/translation.h"
 #include "shell/common.h"
 #include "shell/looks.h"
 #include "shell/module1.h"
@@ -59,7 +60,7 @@ void Startplay2::buildLayout() {
     auto makeCheck = [this](float left, float width, const char* caption, int designed) {
         auto* box = new platform::CheckBox(this);
         box->setBounds(left, 5100, width, 375);
-        box->setText(caption);
+        box->setText(platform::translated("Options", caption));
         styleBlueOnWhite(*box, platform::designFont("Arial", 12, true));
         box->setValue(designed);
         return box;

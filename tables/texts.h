@@ -84,9 +84,8 @@ inline constexpr char kBannerDesign[] = QT_TRANSLATE_NOOP("Board", "Correct Well
 // Verdicts of the answer check. Only the congratulations begin with "C",
 // which is how the check tells them apart.
 inline constexpr char kCorrect[] = QT_TRANSLATE_NOOP("Board", "Correct, Well Done!!!");
-inline constexpr char kCorrectInBefore[] =
-    QT_TRANSLATE_NOOP("Board", "Correct in ");  // then the seconds shown
-inline constexpr char kCorrectInAfter[] = QT_TRANSLATE_NOOP("Board", " seconds!!!");
+// "%1" stands for the seconds shown by the clock.
+inline constexpr char kCorrectIn[] = QT_TRANSLATE_NOOP("Board", "Correct in %1 seconds!!!");
 inline constexpr char kQuartersWrong[] = QT_TRANSLATE_NOOP("Board", "The Quarters are Wrong!");
 inline constexpr char kDiagonalsWrong[] = QT_TRANSLATE_NOOP("Board", "The Diagonals are Wrong!");
 inline constexpr char kWrong[] = QT_TRANSLATE_NOOP("Board", "Wrong, Try Again");

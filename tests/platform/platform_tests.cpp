@@ -14,6 +14,7 @@
 #include "platform/form.h"
 #include "platform/sound.h"
 #include "platform/timer.h"
+#include "platform/translation.h"
 #include "platform/wav_file.h"
 #include "shell/common.h"
 #include "tone_wav.h"
@@ -68,6 +69,39 @@ class PlatformTests : public QObject {
         screens::registerScreen(kProbe, [] { return new Probe; });
     }
     void cleanupTestCase() { QDir::setCurrent(oldCwd); }
+
+    // The first of the desktop's languages the game has wins; a regional
+    // variant falls back to its language; English first, C or a language
+    // without a file load nothing.
+    void languageChoice() {
+        QTemporaryDir folder;
+        for (const char* file : {"pimbalo_de.qm", "pimbalo_pt_BR.qm", "pimbalo_pl.qm"})
+            writeFile(folder.filePath(file), "");
+        auto chosen = [&folder](const QStringList& languages) {
+            return QFileInfo(translationFile(languages, folder.path())).fileName();
+        };
+        QCOMPARE(chosen({"de-AT"}), "pimbalo_de.qm");
+        QCOMPARE(chosen({"de-Latn-AT", "de"}), "pimbalo_de.qm");
+        QCOMPARE(chosen({"pt-BR", "pt"}), "pimbalo_pt_BR.qm");
+        QCOMPARE(chosen({"sv-SE", "sv", "pl-PL", "de"}), "pimbalo_pl.qm");
+        QCOMPARE(chosen({"pt-PT", "pt"}), "");
+        QCOMPARE(chosen({"en-GB", "en", "de"}), "");
+        QCOMPARE(chosen({"C"}), "");
+        QCOMPARE(chosen({}), "");
+    }
+
+    // The desktop's settings as Qt reads them (LANGUAGE, LC_ALL, LC_MESSAGES,
+    // LANG): run by ctest with those set and the file it must pick.
+    void languageFromTheDesktop() {
+        const QString expected = qEnvironmentVariable("PIMBALO_EXPECTED_TRANSLATION");
+        if (!qEnvironmentVariableIsSet("PIMBALO_EXPECTED_TRANSLATION"))
+            QSKIP("run with the desktop's language set");
+        QTemporaryDir folder;
+        for (const char* file : {"pimbalo_de.qm", "pimbalo_pl.qm"})
+            writeFile(folder.filePath(file), "");
+        const QString file = translationFile(QLocale::system().uiLanguages(), folder.path());
+        QCOMPARE(QFileInfo(file).fileName(), expected);
+    }
 
     // Switching on a timer that runs already keeps its next tick where it
     // was; only a timer switched off starts its interval afresh. First: after

@@ -10,7 +10,7 @@
 namespace text = tables::board_text;
 
 TEST(Texts, OnlyTheCongratulationsBeginWithC) {
-    for (const char* correct : {text::kCorrect, text::kCorrectInBefore})
+    for (const char* correct : {text::kCorrect, text::kCorrectIn})
         EXPECT_EQ(correct[0], 'C') << correct;
     for (const char* wrong : {text::kQuartersWrong, text::kDiagonalsWrong, text::kWrong})
         EXPECT_NE(wrong[0], 'C') << wrong;

@@ -5,28 +5,25 @@
 // Two runs of the same code give the same files, so a change that must not
 // alter the looks (moving tables about, say) is checked by running this before
 // and after it and comparing the folders (`compare -metric AE` or `cmp`).
-// The screens are driven the way a player drives them, by clicking controls
-// found by their captions; the clock is frozen so every board deals the same
-// puzzle and picture set.
+// The screens are driven the way a player drives them (screen_tour.h); the
+// clock is frozen so every board deals the same puzzle and picture set. The
+// texts are in the desktop's language: `LANGUAGE=de screen_shots ...` shows
+// the German screens.
 #include <sys/syscall.h>
 #include <unistd.h>
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QDir>
-#include <QLabel>
-#include <QRadioButton>
 #include <QTemporaryDir>
-#include <QtTest>
 #include <cstdio>
 #include <ctime>
 
-#include "board/board_screen.h"
 #include "board/register.h"
 #include "platform/form.h"
+#include "platform/translation.h"
 #include "records/highscores.h"
 #include "shell/register.h"
-#include "tables/screens.h"
+#include "tests/tools/screen_tour.h"
 
 // The wall clock stands still at one moment, so the boards' random start
 // (seeded from the time of day) is the same on every run. The other clocks,
@@ -42,80 +39,13 @@ extern "C" int clock_gettime(clockid_t clock, struct timespec* ts) {
 
 namespace {
 
-using tables::Screen;
 QString outFolder;
 int shotNumber = 0;
 
-void settle() {
-    for (int i = 0; i < 5; ++i) {
-        QCoreApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-}
-
-void shoot(Screen screen, const QString& what) {
-    settle();
-    platform::Form* form = platform::screens::loaded(screen);
-    if (!form || !form->isVisible()) {
-        std::fprintf(stderr, "screen %s is not shown for %s\n", tables::screenName(screen),
-                     qPrintable(what));
-        std::exit(1);
-    }
+void shoot(tables::Screen screen, const QString& what) {
     const QString file =
         QString("%1/%2-%3.png").arg(outFolder).arg(++shotNumber, 2, 10, QChar('0')).arg(what);
-    form->grab().save(file);
-}
-
-// The shown control of `screen` whose caption is `caption`.
-template <class Control>
-Control* find(Screen screen, const QString& caption) {
-    for (Control* c : platform::screens::get(screen).findChildren<Control*>())
-        if (c->isVisible() && c->text() == caption) return c;
-    std::fprintf(stderr, "no \"%s\" on %s\n", qPrintable(caption), tables::screenName(screen));
-    std::exit(1);
-}
-
-void clickWidget(QWidget* w) {
-    QTest::mouseClick(w, Qt::LeftButton, {}, w->rect().center());
-    settle();
-}
-
-void click(Screen screen, const QString& caption) {
-    clickWidget(find<QLabel>(screen, caption));
-}
-
-void setChecked(Screen screen, const QString& caption, bool on) {
-    QCheckBox* box = find<QCheckBox>(screen, caption);
-    if (box->isChecked() != on) clickWidget(box);
-}
-
-void shootBoard(int size, int level, bool timers) {
-    setChecked(Screen::Startplay2, "Timers On", timers);
-    clickWidget(
-        platform::screens::get<QWidget>(Screen::Startplay2).findChildren<QRadioButton*>().at(size));
-    click(Screen::Startplay2, QString::number(level + 1));
-    const Screen name = tables::boardScreen(size);
-    auto& b = platform::screens::get<board::Board>(name);
-    b.Timer1.setEnabled(false);  // the clock shows 0 however slow the run
-    const QString tag =
-        QString("board%1-level%2%3").arg(size).arg(level + 1).arg(timers ? "-timed" : "");
-    shoot(name, tag);
-    if (level == 0) {
-        click(name, "Change Pictures");
-        shoot(name, tag + "-sets");
-        for (int set = 0; set < b.layout().pictureSets; ++set) {
-            clickWidget(&b.Image4(set));
-            shoot(name, tag + QString("-set%1").arg(set));
-        }
-        click(name, "Show solution");
-        shoot(name, tag + "-solution");
-    }
-    if (timers) {
-        click(name, "Fastest Times");
-        shoot(Screen::highscores, tag + "-fastest");
-        click(Screen::highscores, "Continue");
-    }
-    click(name, "Exit");
+    platform::screens::loaded(screen)->grab().save(file);
 }
 
 }  // namespace
@@ -138,27 +68,11 @@ int main(int argc, char* argv[]) {
     shell::registerScreens();
     board::registerScreens();
     records::registerScreens();
+    // In the desktop's language, as the game itself would be.
+    const QString translation = platform::installTranslation(game + "/translations");
+    if (!translation.isEmpty()) std::printf("texts from %s\n", qPrintable(translation));
 
-    platform::screens::show(Screen::Titlefrm);
-    shoot(Screen::Titlefrm, "title");
-    click(Screen::Titlefrm, "OK");
-    shoot(Screen::Grey, "backdrop");
-    shoot(Screen::Startplay2, "options");
-
-    click(Screen::Startplay2, "The Rules");
-    auto pages = platform::screens::get<QWidget>(Screen::Morvelrules).findChildren<QRadioButton*>();
-    for (int page = 0; page < pages.size(); ++page) {
-        clickWidget(pages.at(page));
-        shoot(Screen::Morvelrules, QString("rules-page%1").arg(page + 1));
-    }
-    click(Screen::Morvelrules, "Exit");
-
-    for (int size = 0; size < 3; ++size)
-        for (int level = 0; level < 3; ++level) shootBoard(size, level, level == 1);
-
-    shoot(Screen::Startplay2, "options-after-games");
-    click(Screen::Startplay2, "Exit");
-    shoot(Screen::Titlefrm, "title-again");
+    screen_tour::walk({shoot});
     std::printf("%d screens in %s\n", shotNumber, qPrintable(outFolder));
     platform::screens::endProgram();
     return 0;
