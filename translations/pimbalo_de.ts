@@ -4,133 +4,98 @@
 <context>
     <name>Board</name>
     <message>
-        <location filename="../tables/texts.h" line="72"/>
         <source>Exit</source>
         <translation>Ende</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="72"/>
         <source>Start again</source>
         <translation>Von vorn</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="73"/>
         <source>New Puzzle</source>
         <translation>Neues Rätsel</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="73"/>
         <source>Fastest Times</source>
         <translation>Beste Zeiten</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="74"/>
         <source>Show solution</source>
         <translation>Lösung zeigen</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="74"/>
         <source>Change Pictures</source>
         <translation>Andere Bilder</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="76"/>
         <source>Show Rules</source>
         <translation>Regeln zeigen</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="77"/>
         <source>Select a picture</source>
         <translation>Wähle ein Bild aus</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="78"/>
         <source> Time Taken</source>
         <translation>Deine Zeit</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="79"/>
         <source>seconds</source>
         <translation>Sekunden</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="80"/>
-        <location filename="../tables/texts.h" line="97"/>
         <source>Level</source>
         <translation>Stufe</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="82"/>
         <source>Correct Well Done!!!</source>
         <translation>Cool, alles richtig!!!</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="86"/>
         <source>Correct, Well Done!!!</source>
         <translation>Cool, alles richtig!!!</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="88"/>
-        <source>Correct in </source>
-        <translation>Cool! In </translation>
-    </message>
-    <message>
-        <location filename="../tables/texts.h" line="89"/>
-        <source> seconds!!!</source>
-        <translation> Sekunden!!!</translation>
-    </message>
-    <message>
-        <location filename="../tables/texts.h" line="90"/>
         <source>The Quarters are Wrong!</source>
         <translation>Die Viertel sind falsch!</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="91"/>
         <source>The Diagonals are Wrong!</source>
         <translation>Die Diagonalen sind falsch!</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="92"/>
         <source>Wrong, Try Again</source>
         <translation>Falsch, versuch’s noch mal</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="95"/>
         <source>Pimbalo %1x%1 board</source>
         <translation>Pimbalo-Spielfeld %1x%1</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="96"/>
         <source>Board command</source>
         <translation>Befehl</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="98"/>
         <source>Seconds taken</source>
         <translation>Gebrauchte Sekunden</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="99"/>
         <source>Result</source>
         <translation>Ergebnis</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="101"/>
         <source>Row %1, column %2: </source>
         <translation>Reihe %1, Spalte %2: </translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="102"/>
         <source>empty</source>
         <translation>leer</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="103"/>
         <source>Given, cannot be moved</source>
         <translation>Vorgegeben, bleibt liegen</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="104"/>
         <source>Grid cell</source>
         <translation>Feld</translation>
     </message>
@@ -166,7 +131,6 @@
 <context>
     <name>Common</name>
     <message>
-        <location filename="../tables/texts.h" line="31"/>
         <source>Pimbalo (c) 2026 The Pimbalo developers. All rights reserved.</source>
         <translation>Pimbalo (c) 2026 Die Pimbalo-Entwickler. Alle Rechte vorbehalten.</translation>
     </message>
@@ -174,22 +138,18 @@
 <context>
     <name>Error</name>
     <message>
-        <location filename="../tables/texts.h" line="127"/>
         <source>Pimbalo</source>
         <translation>Pimbalo</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="129"/>
         <source>Pimbalo cannot go on: the file &quot;%1&quot; could not be loaded (%2).</source>
         <translation>Pimbalo kann nicht weitermachen: Die Datei „%1“ ließ sich nicht laden (%2).</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="130"/>
         <source>file not found</source>
         <translation>Datei nicht gefunden</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="131"/>
         <source>not a cursor file</source>
         <translation>keine Zeigerdatei</translation>
     </message>
@@ -197,47 +157,38 @@
 <context>
     <name>FastestTimes</name>
     <message>
-        <location filename="../tables/texts.h" line="109"/>
         <source>Pimbalo 4x4 Fastest Times</source>
         <translation>Pimbalo 4x4: Bestzeiten</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="110"/>
         <source>Pimbalo 5x5 Fastest Times</source>
         <translation>Pimbalo 5x5: Bestzeiten</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="111"/>
         <source>Pimbalo 6x6 Fastest Times</source>
         <translation>Pimbalo 6x6: Bestzeiten</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="112"/>
         <source>Continue</source>
         <translation>Weiter</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="113"/>
         <source>Level 1</source>
         <translation>Stufe 1</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="114"/>
         <source>Level 2</source>
         <translation>Stufe 2</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="115"/>
         <source>Level 3</source>
         <translation>Stufe 3</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="117"/>
         <source>Solo Play</source>
         <translation>Einzelspiel</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="120"/>
         <source>Type your name in the box</source>
         <translation>Schreib deinen Namen in das Feld</translation>
     </message>
@@ -245,37 +196,30 @@
 <context>
     <name>Options</name>
     <message>
-        <location filename="../tables/texts.h" line="43"/>
         <source>Board Size</source>
-        <translation>Spielfeld</translation>
+        <translation>Größe</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="45"/>
         <source>The Rules</source>
         <translation>Regeln</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="46"/>
         <source>Timers On</source>
         <translation>Uhr an</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="47"/>
         <source>Play Sound</source>
         <translation>Ton an</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="48"/>
         <source>Hide Desktop</source>
         <translation>Nur das Spiel</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="49"/>
         <source>Level</source>
         <translation>Stufe</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="51"/>
         <source>Exit</source>
         <translation>Ende</translation>
     </message>
@@ -283,272 +227,218 @@
 <context>
     <name>Pictures</name>
     <message>
-        <location filename="../tables/pictures.cpp" line="96"/>
         <source>great stellated dodecahedron</source>
         <translation>großes Sterndodekaeder</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="97"/>
         <source>great icosahedron</source>
         <translation>großes Ikosaeder</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="98"/>
         <source>small stellated dodecahedron</source>
         <translation>kleines Sterndodekaeder</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="99"/>
         <source>ten tetrahedra</source>
         <translation>zehn Tetraeder</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="100"/>
         <source>five tetrahedra</source>
         <translation>fünf Tetraeder</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="101"/>
         <source>great dodecahedron</source>
         <translation>großes Dodekaeder</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="103"/>
         <source>clubs</source>
         <translation>Kreuz</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="103"/>
         <source>spades</source>
         <translation>Pik</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="104"/>
         <source>diamonds</source>
         <translation>Karo</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="104"/>
         <source>hearts</source>
         <translation>Herz</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="105"/>
         <source>die showing one</source>
         <translation>Würfel mit einem Auge</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="106"/>
         <source>die showing two</source>
         <translation>Würfel mit zwei Augen</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="107"/>
         <source>die showing three</source>
         <translation>Würfel mit drei Augen</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="108"/>
         <source>die showing four</source>
         <translation>Würfel mit vier Augen</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="109"/>
         <source>die showing five</source>
         <translation>Würfel mit fünf Augen</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="110"/>
         <source>die showing six</source>
         <translation>Würfel mit sechs Augen</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="112"/>
         <source>tovi</source>
         <translation>tovi</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="112"/>
         <source>jebu</source>
         <translation>jebu</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="113"/>
         <source>moustache</source>
         <translation>Schnurrbart</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="113"/>
         <source>kramble</source>
         <translation>kramble</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="114"/>
         <source>wuzzet</source>
         <translation>wuzzet</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="115"/>
         <source>flag of the United Kingdom</source>
         <translation>Flagge von Großbritannien</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="116"/>
         <source>flag of the United States</source>
         <translation>Flagge der USA</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="117"/>
         <source>flag of South Africa</source>
         <translation>Flagge von Südafrika</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="118"/>
         <source>flag of Germany</source>
         <translation>Flagge von Deutschland</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="119"/>
         <source>flag of Australia</source>
         <translation>Flagge von Australien</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="120"/>
         <source>flag of France</source>
         <translation>Flagge von Frankreich</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="122"/>
         <source>dots</source>
         <translation>Punkte</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="122"/>
         <source>stripes</source>
         <translation>Streifen</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="123"/>
         <source>tiles</source>
         <translation>Fliesen</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="123"/>
         <source>triangles</source>
         <translation>Dreiecke</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="124"/>
         <source>link</source>
         <translation>Kette</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="126"/>
         <source>polygon</source>
         <translation>Vieleck</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="126"/>
         <source>triangle</source>
         <translation>Dreieck</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="127"/>
         <source>star</source>
         <translation>Stern</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="127"/>
         <source>square</source>
         <translation>Quadrat</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="128"/>
         <source>rectangle</source>
         <translation>Rechteck</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="128"/>
         <source>doughnut</source>
         <translation>Donut</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="130"/>
         <source>ambulance</source>
         <translation>Krankenwagen</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="130"/>
         <source>fire engine</source>
         <translation>Feuerwehrauto</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="131"/>
         <source>police car</source>
         <translation>Polizeiauto</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="131"/>
         <source>boat</source>
         <translation>Boot</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="133"/>
         <source>number one</source>
         <translation>Zahl eins</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="133"/>
         <source>number two</source>
         <translation>Zahl zwei</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="134"/>
         <source>number three</source>
         <translation>Zahl drei</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="134"/>
         <source>number four</source>
         <translation>Zahl vier</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="135"/>
         <source>number five</source>
         <translation>Zahl fünf</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="135"/>
         <source>number six</source>
         <translation>Zahl sechs</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="137"/>
         <source>letter A</source>
         <translation>Buchstabe A</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="137"/>
         <source>letter B</source>
         <translation>Buchstabe B</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="138"/>
         <source>letter C</source>
         <translation>Buchstabe C</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="138"/>
         <source>letter D</source>
         <translation>Buchstabe D</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="139"/>
         <source>letter E</source>
         <translation>Buchstabe E</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="139"/>
         <source>letter F</source>
         <translation>Buchstabe F</translation>
     </message>
@@ -616,57 +506,46 @@
 <context>
     <name>Rules</name>
     <message>
-        <location filename="../tables/texts.h" line="12"/>
         <source>Drag and drop the pictures into the grid so that all the pictures in each row are different, all the pictures in each column are different, all the pictures in each diagonal are different and all the pictures in each quarter are different.</source>
         <translation>Zieh die Bilder in die Kästchen. In jeder Reihe, jeder Spalte, jeder Diagonale und jedem Viertel darf jedes Bild nur einmal sein.</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="17"/>
         <source>Drag and drop the pictures into the grid so that all the pictures in each row are different, all the pictures in each column are different and all the pictures along each diagonal are different.</source>
         <translation>Zieh die Bilder in die Kästchen. In jeder Reihe, jeder Spalte und jeder Diagonale darf jedes Bild nur einmal sein.</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="22"/>
         <source>Drag and drop the pictures into the grid so that all the pictures in each row are different, all the pictures in each column are different and all the pictures in each of the six coloured rectangles are different.</source>
         <translation>Zieh die Bilder in die Kästchen. In jeder Reihe, jeder Spalte und jedem der sechs bunten Rechtecke darf jedes Bild nur einmal sein.</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="56"/>
         <source>4x4 Board</source>
         <translation>Feld 4x4</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="57"/>
         <source>5x5 Board</source>
         <translation>Feld 5x5</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="58"/>
         <source>6x6 Board</source>
         <translation>Feld 6x6</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="59"/>
         <source>The Rules of Pimbalo</source>
         <translation>Die Pimbalo-Regeln</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="60"/>
         <source>Puzzle</source>
         <translation>Rätsel</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="61"/>
         <source>Solution</source>
-        <translation>Lösung</translation>
+        <translation>Antwort</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="62"/>
         <source>High scores will only be saved if Pimbalo is installed on your hard disk. To install Pimbalo run the setup program on the CD-ROM.</source>
         <translation>Die besten Zeiten bleiben nur gespeichert, wenn Pimbalo installiert ist. Starte dazu das Setup auf der CD-ROM.</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="66"/>
         <source>Exit</source>
         <translation>Zurück</translation>
     </message>
@@ -674,17 +553,14 @@
 <context>
     <name>Title</name>
     <message>
-        <location filename="../tables/texts.h" line="36"/>
         <source>OK</source>
         <translation>Los!</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="38"/>
         <source>Cancel</source>
         <translation>Zurück</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="39"/>
         <source>Exit</source>
         <translation>Ende</translation>
     </message>

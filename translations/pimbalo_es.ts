@@ -4,133 +4,98 @@
 <context>
     <name>Board</name>
     <message>
-        <location filename="../tables/texts.h" line="72"/>
         <source>Exit</source>
         <translation>Salir</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="72"/>
         <source>Start again</source>
         <translation>Otra vez</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="73"/>
         <source>New Puzzle</source>
         <translation>Otro puzle</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="73"/>
         <source>Fastest Times</source>
         <translation>Mejores tiempos</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="74"/>
         <source>Show solution</source>
         <translation>Ver la solución</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="74"/>
         <source>Change Pictures</source>
         <translation>Otros dibujos</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="76"/>
         <source>Show Rules</source>
         <translation>Ver las reglas</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="77"/>
         <source>Select a picture</source>
         <translation>Elige un dibujo</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="78"/>
         <source> Time Taken</source>
         <translation>Tu tiempo</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="79"/>
         <source>seconds</source>
         <translation>segundos</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="80"/>
-        <location filename="../tables/texts.h" line="97"/>
         <source>Level</source>
         <translation>Nivel</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="82"/>
         <source>Correct Well Done!!!</source>
         <translation>Correcto, ¡muy bien!</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="86"/>
         <source>Correct, Well Done!!!</source>
         <translation>Correcto, ¡muy bien!</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="88"/>
-        <source>Correct in </source>
-        <translation>Correcto: ¡</translation>
-    </message>
-    <message>
-        <location filename="../tables/texts.h" line="89"/>
-        <source> seconds!!!</source>
-        <translation> segundos!</translation>
-    </message>
-    <message>
-        <location filename="../tables/texts.h" line="90"/>
         <source>The Quarters are Wrong!</source>
         <translation>¡Los cuadrados están mal!</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="91"/>
         <source>The Diagonals are Wrong!</source>
         <translation>¡Las diagonales están mal!</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="92"/>
         <source>Wrong, Try Again</source>
         <translation>Mal, inténtalo otra vez</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="95"/>
         <source>Pimbalo %1x%1 board</source>
         <translation>Tablero de Pimbalo %1x%1</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="96"/>
         <source>Board command</source>
         <translation>Botón del juego</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="98"/>
         <source>Seconds taken</source>
         <translation>Segundos usados</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="99"/>
         <source>Result</source>
         <translation>Resultado</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="101"/>
         <source>Row %1, column %2: </source>
         <translation>Fila %1, columna %2: </translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="102"/>
         <source>empty</source>
         <translation>vacía</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="103"/>
         <source>Given, cannot be moved</source>
         <translation>Ya puesta, no se mueve</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="104"/>
         <source>Grid cell</source>
         <translation>Casilla</translation>
     </message>
@@ -166,7 +131,6 @@
 <context>
     <name>Common</name>
     <message>
-        <location filename="../tables/texts.h" line="31"/>
         <source>Pimbalo (c) 2026 The Pimbalo developers. All rights reserved.</source>
         <translation>Pimbalo (c) 2026 El equipo de Pimbalo. Todos los derechos reservados.</translation>
     </message>
@@ -174,22 +138,18 @@
 <context>
     <name>Error</name>
     <message>
-        <location filename="../tables/texts.h" line="127"/>
         <source>Pimbalo</source>
         <translation>Pimbalo</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="129"/>
         <source>Pimbalo cannot go on: the file &quot;%1&quot; could not be loaded (%2).</source>
         <translation>Pimbalo no puede seguir: no se pudo cargar el archivo «%1» (%2).</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="130"/>
         <source>file not found</source>
         <translation>no se encuentra el archivo</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="131"/>
         <source>not a cursor file</source>
         <translation>no es un archivo de cursor</translation>
     </message>
@@ -197,47 +157,38 @@
 <context>
     <name>FastestTimes</name>
     <message>
-        <location filename="../tables/texts.h" line="109"/>
         <source>Pimbalo 4x4 Fastest Times</source>
         <translation>Pimbalo 4x4: los mejores tiempos</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="110"/>
         <source>Pimbalo 5x5 Fastest Times</source>
         <translation>Pimbalo 5x5: los mejores tiempos</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="111"/>
         <source>Pimbalo 6x6 Fastest Times</source>
         <translation>Pimbalo 6x6: los mejores tiempos</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="112"/>
         <source>Continue</source>
         <translation>Seguir</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="113"/>
         <source>Level 1</source>
         <translation>Nivel 1</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="114"/>
         <source>Level 2</source>
         <translation>Nivel 2</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="115"/>
         <source>Level 3</source>
         <translation>Nivel 3</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="117"/>
         <source>Solo Play</source>
         <translation>Un jugador</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="120"/>
         <source>Type your name in the box</source>
         <translation>Escribe tu nombre en la casilla</translation>
     </message>
@@ -245,37 +196,30 @@
 <context>
     <name>Options</name>
     <message>
-        <location filename="../tables/texts.h" line="43"/>
         <source>Board Size</source>
         <translation>Tamaño</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="45"/>
         <source>The Rules</source>
         <translation>Las reglas</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="46"/>
         <source>Timers On</source>
         <translation>Reloj</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="47"/>
         <source>Play Sound</source>
         <translation>Sonido</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="48"/>
         <source>Hide Desktop</source>
         <translation>Solo el juego</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="49"/>
         <source>Level</source>
         <translation>Nivel</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="51"/>
         <source>Exit</source>
         <translation>Salir</translation>
     </message>
@@ -283,272 +227,218 @@
 <context>
     <name>Pictures</name>
     <message>
-        <location filename="../tables/pictures.cpp" line="96"/>
         <source>great stellated dodecahedron</source>
         <translation>gran dodecaedro estrellado</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="97"/>
         <source>great icosahedron</source>
         <translation>gran icosaedro</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="98"/>
         <source>small stellated dodecahedron</source>
         <translation>pequeño dodecaedro estrellado</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="99"/>
         <source>ten tetrahedra</source>
         <translation>diez tetraedros</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="100"/>
         <source>five tetrahedra</source>
         <translation>cinco tetraedros</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="101"/>
         <source>great dodecahedron</source>
         <translation>gran dodecaedro</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="103"/>
         <source>clubs</source>
         <translation>trébol</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="103"/>
         <source>spades</source>
         <translation>pica</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="104"/>
         <source>diamonds</source>
         <translation>diamante</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="104"/>
         <source>hearts</source>
         <translation>corazón</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="105"/>
         <source>die showing one</source>
         <translation>dado con un punto</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="106"/>
         <source>die showing two</source>
         <translation>dado con dos puntos</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="107"/>
         <source>die showing three</source>
         <translation>dado con tres puntos</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="108"/>
         <source>die showing four</source>
         <translation>dado con cuatro puntos</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="109"/>
         <source>die showing five</source>
         <translation>dado con cinco puntos</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="110"/>
         <source>die showing six</source>
         <translation>dado con seis puntos</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="112"/>
         <source>tovi</source>
         <translation>tovi</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="112"/>
         <source>jebu</source>
         <translation>jebu</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="113"/>
         <source>moustache</source>
         <translation>bigote</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="113"/>
         <source>kramble</source>
         <translation>kramble</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="114"/>
         <source>wuzzet</source>
         <translation>wuzzet</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="115"/>
         <source>flag of the United Kingdom</source>
         <translation>bandera del Reino Unido</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="116"/>
         <source>flag of the United States</source>
         <translation>bandera de Estados Unidos</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="117"/>
         <source>flag of South Africa</source>
         <translation>bandera de Sudáfrica</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="118"/>
         <source>flag of Germany</source>
         <translation>bandera de Alemania</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="119"/>
         <source>flag of Australia</source>
         <translation>bandera de Australia</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="120"/>
         <source>flag of France</source>
         <translation>bandera de Francia</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="122"/>
         <source>dots</source>
         <translation>puntos</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="122"/>
         <source>stripes</source>
         <translation>rayas</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="123"/>
         <source>tiles</source>
         <translation>baldosas</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="123"/>
         <source>triangles</source>
         <translation>triángulos</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="124"/>
         <source>link</source>
         <translation>cadena</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="126"/>
         <source>polygon</source>
         <translation>polígono</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="126"/>
         <source>triangle</source>
         <translation>triángulo</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="127"/>
         <source>star</source>
         <translation>estrella</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="127"/>
         <source>square</source>
         <translation>cuadrado</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="128"/>
         <source>rectangle</source>
         <translation>rectángulo</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="128"/>
         <source>doughnut</source>
         <translation>dónut</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="130"/>
         <source>ambulance</source>
         <translation>ambulancia</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="130"/>
         <source>fire engine</source>
         <translation>camión de bomberos</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="131"/>
         <source>police car</source>
         <translation>coche de policía</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="131"/>
         <source>boat</source>
         <translation>barco</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="133"/>
         <source>number one</source>
         <translation>número uno</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="133"/>
         <source>number two</source>
         <translation>número dos</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="134"/>
         <source>number three</source>
         <translation>número tres</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="134"/>
         <source>number four</source>
         <translation>número cuatro</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="135"/>
         <source>number five</source>
         <translation>número cinco</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="135"/>
         <source>number six</source>
         <translation>número seis</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="137"/>
         <source>letter A</source>
         <translation>letra A</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="137"/>
         <source>letter B</source>
         <translation>letra B</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="138"/>
         <source>letter C</source>
         <translation>letra C</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="138"/>
         <source>letter D</source>
         <translation>letra D</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="139"/>
         <source>letter E</source>
         <translation>letra E</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="139"/>
         <source>letter F</source>
         <translation>letra F</translation>
     </message>
@@ -616,57 +506,46 @@
 <context>
     <name>Rules</name>
     <message>
-        <location filename="../tables/texts.h" line="12"/>
         <source>Drag and drop the pictures into the grid so that all the pictures in each row are different, all the pictures in each column are different, all the pictures in each diagonal are different and all the pictures in each quarter are different.</source>
         <translation>Arrastra los dibujos a la cuadrícula. En cada fila, cada columna, cada diagonal y cada cuadrado, todos los dibujos son distintos.</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="17"/>
         <source>Drag and drop the pictures into the grid so that all the pictures in each row are different, all the pictures in each column are different and all the pictures along each diagonal are different.</source>
         <translation>Arrastra los dibujos a la cuadrícula. En cada fila, cada columna y cada diagonal, todos los dibujos son distintos.</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="22"/>
         <source>Drag and drop the pictures into the grid so that all the pictures in each row are different, all the pictures in each column are different and all the pictures in each of the six coloured rectangles are different.</source>
         <translation>Arrastra los dibujos a la cuadrícula. En cada fila, cada columna y cada uno de los seis rectángulos de colores, todos los dibujos son distintos.</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="56"/>
         <source>4x4 Board</source>
         <translation>Tablero 4x4</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="57"/>
         <source>5x5 Board</source>
         <translation>Tablero 5x5</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="58"/>
         <source>6x6 Board</source>
         <translation>Tablero 6x6</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="59"/>
         <source>The Rules of Pimbalo</source>
         <translation>Reglas de Pimbalo</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="60"/>
         <source>Puzzle</source>
         <translation>Puzle</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="61"/>
         <source>Solution</source>
         <translation>Solución</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="62"/>
         <source>High scores will only be saved if Pimbalo is installed on your hard disk. To install Pimbalo run the setup program on the CD-ROM.</source>
         <translation>Los mejores tiempos solo se guardan si Pimbalo está instalado en el disco duro. Para instalarlo, abre el programa de instalación del CD-ROM.</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="66"/>
         <source>Exit</source>
         <translation>Volver</translation>
     </message>
@@ -674,17 +553,14 @@
 <context>
     <name>Title</name>
     <message>
-        <location filename="../tables/texts.h" line="36"/>
         <source>OK</source>
         <translation>Jugar</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="38"/>
         <source>Cancel</source>
         <translation>Volver</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="39"/>
         <source>Exit</source>
         <translation>Salir</translation>
     </message>

@@ -4,133 +4,98 @@
 <context>
     <name>Board</name>
     <message>
-        <location filename="../tables/texts.h" line="72"/>
         <source>Exit</source>
         <translation>Esci</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="72"/>
         <source>Start again</source>
         <translation>Ricomincia</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="73"/>
         <source>New Puzzle</source>
         <translation>Nuovo gioco</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="73"/>
         <source>Fastest Times</source>
         <translation>Tempi migliori</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="74"/>
         <source>Show solution</source>
         <translation>Vedi soluzione</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="74"/>
         <source>Change Pictures</source>
         <translation>Altre figure</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="76"/>
         <source>Show Rules</source>
         <translation>Vedi le regole</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="77"/>
         <source>Select a picture</source>
         <translation>Scegli una figura</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="78"/>
         <source> Time Taken</source>
         <translation>Il tuo tempo</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="79"/>
         <source>seconds</source>
         <translation>secondi</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="80"/>
-        <location filename="../tables/texts.h" line="97"/>
         <source>Level</source>
         <translation>Livello</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="82"/>
         <source>Correct Well Done!!!</source>
         <translation>Corretto, bravo!!!</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="86"/>
         <source>Correct, Well Done!!!</source>
         <translation>Corretto, bravo!!!</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="88"/>
-        <source>Correct in </source>
-        <translation>Corretto in </translation>
-    </message>
-    <message>
-        <location filename="../tables/texts.h" line="89"/>
-        <source> seconds!!!</source>
-        <translation> secondi!!!</translation>
-    </message>
-    <message>
-        <location filename="../tables/texts.h" line="90"/>
         <source>The Quarters are Wrong!</source>
         <translation>I quadrati sono sbagliati!</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="91"/>
         <source>The Diagonals are Wrong!</source>
         <translation>Diagonali sbagliate!</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="92"/>
         <source>Wrong, Try Again</source>
         <translation>Sbagliato, riprova</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="95"/>
         <source>Pimbalo %1x%1 board</source>
         <translation>Griglia di Pimbalo %1x%1</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="96"/>
         <source>Board command</source>
         <translation>Comando</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="98"/>
         <source>Seconds taken</source>
         <translation>Secondi impiegati</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="99"/>
         <source>Result</source>
         <translation>Risultato</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="101"/>
         <source>Row %1, column %2: </source>
         <translation>Riga %1, colonna %2: </translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="102"/>
         <source>empty</source>
         <translation>vuota</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="103"/>
         <source>Given, cannot be moved</source>
         <translation>Già messa, non si sposta</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="104"/>
         <source>Grid cell</source>
         <translation>Casella</translation>
     </message>
@@ -166,7 +131,6 @@
 <context>
     <name>Common</name>
     <message>
-        <location filename="../tables/texts.h" line="31"/>
         <source>Pimbalo (c) 2026 The Pimbalo developers. All rights reserved.</source>
         <translation>Pimbalo (c) 2026 Gli sviluppatori di Pimbalo. Tutti i diritti riservati.</translation>
     </message>
@@ -174,22 +138,18 @@
 <context>
     <name>Error</name>
     <message>
-        <location filename="../tables/texts.h" line="127"/>
         <source>Pimbalo</source>
         <translation>Pimbalo</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="129"/>
         <source>Pimbalo cannot go on: the file &quot;%1&quot; could not be loaded (%2).</source>
         <translation>Pimbalo non può continuare: impossibile caricare il file «%1» (%2).</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="130"/>
         <source>file not found</source>
         <translation>file non trovato</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="131"/>
         <source>not a cursor file</source>
         <translation>non è un file di cursore</translation>
     </message>
@@ -197,47 +157,38 @@
 <context>
     <name>FastestTimes</name>
     <message>
-        <location filename="../tables/texts.h" line="109"/>
         <source>Pimbalo 4x4 Fastest Times</source>
         <translation>Pimbalo 4x4: i tempi migliori</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="110"/>
         <source>Pimbalo 5x5 Fastest Times</source>
         <translation>Pimbalo 5x5: i tempi migliori</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="111"/>
         <source>Pimbalo 6x6 Fastest Times</source>
         <translation>Pimbalo 6x6: i tempi migliori</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="112"/>
         <source>Continue</source>
         <translation>Avanti</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="113"/>
         <source>Level 1</source>
         <translation>Livello 1</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="114"/>
         <source>Level 2</source>
         <translation>Livello 2</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="115"/>
         <source>Level 3</source>
         <translation>Livello 3</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="117"/>
         <source>Solo Play</source>
         <translation>Giocatore singolo</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="120"/>
         <source>Type your name in the box</source>
         <translation>Scrivi il tuo nome nella casella</translation>
     </message>
@@ -245,37 +196,30 @@
 <context>
     <name>Options</name>
     <message>
-        <location filename="../tables/texts.h" line="43"/>
         <source>Board Size</source>
         <translation>Grandezza</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="45"/>
         <source>The Rules</source>
         <translation>Le regole</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="46"/>
         <source>Timers On</source>
         <translation>Orologio</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="47"/>
         <source>Play Sound</source>
         <translation>Suoni</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="48"/>
         <source>Hide Desktop</source>
         <translation>Solo il gioco</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="49"/>
         <source>Level</source>
         <translation>Livello</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="51"/>
         <source>Exit</source>
         <translation>Esci</translation>
     </message>
@@ -283,272 +227,218 @@
 <context>
     <name>Pictures</name>
     <message>
-        <location filename="../tables/pictures.cpp" line="96"/>
         <source>great stellated dodecahedron</source>
         <translation>grande dodecaedro stellato</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="97"/>
         <source>great icosahedron</source>
         <translation>grande icosaedro</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="98"/>
         <source>small stellated dodecahedron</source>
         <translation>piccolo dodecaedro stellato</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="99"/>
         <source>ten tetrahedra</source>
         <translation>dieci tetraedri</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="100"/>
         <source>five tetrahedra</source>
         <translation>cinque tetraedri</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="101"/>
         <source>great dodecahedron</source>
         <translation>grande dodecaedro</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="103"/>
         <source>clubs</source>
         <translation>fiori</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="103"/>
         <source>spades</source>
         <translation>picche</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="104"/>
         <source>diamonds</source>
         <translation>quadri</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="104"/>
         <source>hearts</source>
         <translation>cuori</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="105"/>
         <source>die showing one</source>
         <translation>dado con un punto</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="106"/>
         <source>die showing two</source>
         <translation>dado con due punti</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="107"/>
         <source>die showing three</source>
         <translation>dado con tre punti</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="108"/>
         <source>die showing four</source>
         <translation>dado con quattro punti</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="109"/>
         <source>die showing five</source>
         <translation>dado con cinque punti</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="110"/>
         <source>die showing six</source>
         <translation>dado con sei punti</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="112"/>
         <source>tovi</source>
         <translation>tovi</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="112"/>
         <source>jebu</source>
         <translation>jebu</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="113"/>
         <source>moustache</source>
         <translation>baffi</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="113"/>
         <source>kramble</source>
         <translation>kramble</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="114"/>
         <source>wuzzet</source>
         <translation>wuzzet</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="115"/>
         <source>flag of the United Kingdom</source>
         <translation>bandiera del Regno Unito</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="116"/>
         <source>flag of the United States</source>
         <translation>bandiera degli Stati Uniti</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="117"/>
         <source>flag of South Africa</source>
         <translation>bandiera del Sudafrica</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="118"/>
         <source>flag of Germany</source>
         <translation>bandiera della Germania</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="119"/>
         <source>flag of Australia</source>
         <translation>bandiera dell’Australia</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="120"/>
         <source>flag of France</source>
         <translation>bandiera della Francia</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="122"/>
         <source>dots</source>
         <translation>puntini</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="122"/>
         <source>stripes</source>
         <translation>strisce</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="123"/>
         <source>tiles</source>
         <translation>piastrelle</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="123"/>
         <source>triangles</source>
         <translation>triangoli</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="124"/>
         <source>link</source>
         <translation>catena</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="126"/>
         <source>polygon</source>
         <translation>poligono</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="126"/>
         <source>triangle</source>
         <translation>triangolo</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="127"/>
         <source>star</source>
         <translation>stella</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="127"/>
         <source>square</source>
         <translation>quadrato</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="128"/>
         <source>rectangle</source>
         <translation>rettangolo</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="128"/>
         <source>doughnut</source>
         <translation>ciambella</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="130"/>
         <source>ambulance</source>
         <translation>ambulanza</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="130"/>
         <source>fire engine</source>
         <translation>camion dei pompieri</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="131"/>
         <source>police car</source>
         <translation>auto della polizia</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="131"/>
         <source>boat</source>
         <translation>barca</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="133"/>
         <source>number one</source>
         <translation>numero uno</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="133"/>
         <source>number two</source>
         <translation>numero due</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="134"/>
         <source>number three</source>
         <translation>numero tre</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="134"/>
         <source>number four</source>
         <translation>numero quattro</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="135"/>
         <source>number five</source>
         <translation>numero cinque</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="135"/>
         <source>number six</source>
         <translation>numero sei</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="137"/>
         <source>letter A</source>
         <translation>lettera A</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="137"/>
         <source>letter B</source>
         <translation>lettera B</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="138"/>
         <source>letter C</source>
         <translation>lettera C</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="138"/>
         <source>letter D</source>
         <translation>lettera D</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="139"/>
         <source>letter E</source>
         <translation>lettera E</translation>
     </message>
     <message>
-        <location filename="../tables/pictures.cpp" line="139"/>
         <source>letter F</source>
         <translation>lettera F</translation>
     </message>
@@ -616,57 +506,46 @@
 <context>
     <name>Rules</name>
     <message>
-        <location filename="../tables/texts.h" line="12"/>
         <source>Drag and drop the pictures into the grid so that all the pictures in each row are different, all the pictures in each column are different, all the pictures in each diagonal are different and all the pictures in each quarter are different.</source>
         <translation>Trascina le figure nella griglia. In ogni riga, ogni colonna, ogni diagonale e ogni quadrato, tutte le figure sono diverse.</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="17"/>
         <source>Drag and drop the pictures into the grid so that all the pictures in each row are different, all the pictures in each column are different and all the pictures along each diagonal are different.</source>
         <translation>Trascina le figure nella griglia. In ogni riga, ogni colonna e ogni diagonale, tutte le figure sono diverse.</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="22"/>
         <source>Drag and drop the pictures into the grid so that all the pictures in each row are different, all the pictures in each column are different and all the pictures in each of the six coloured rectangles are different.</source>
         <translation>Trascina le figure nella griglia. In ogni riga, ogni colonna e ognuno dei sei rettangoli colorati, tutte le figure sono diverse.</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="56"/>
         <source>4x4 Board</source>
         <translation>Griglia 4x4</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="57"/>
         <source>5x5 Board</source>
         <translation>Griglia 5x5</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="58"/>
         <source>6x6 Board</source>
         <translation>Griglia 6x6</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="59"/>
         <source>The Rules of Pimbalo</source>
         <translation>Le regole di Pimbalo</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="60"/>
         <source>Puzzle</source>
         <translation>Gioco</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="61"/>
         <source>Solution</source>
         <translation>Soluzione</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="62"/>
         <source>High scores will only be saved if Pimbalo is installed on your hard disk. To install Pimbalo run the setup program on the CD-ROM.</source>
         <translation>I tempi migliori si salvano solo se Pimbalo è installato sul disco fisso. Per installarlo, avvia il programma di installazione dal CD-ROM.</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="66"/>
         <source>Exit</source>
         <translation>Indietro</translation>
     </message>
@@ -674,17 +553,14 @@
 <context>
     <name>Title</name>
     <message>
-        <location filename="../tables/texts.h" line="36"/>
         <source>OK</source>
         <translation>Gioca</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="38"/>
         <source>Cancel</source>
         <translation>Torna</translation>
     </message>
     <message>
-        <location filename="../tables/texts.h" line="39"/>
         <source>Exit</source>
         <translation>Esci</translation>
     </message>
