@@ -49,19 +49,19 @@
     </message>
     <message>
         <source>Correct Well Done!!!</source>
-        <translation>C’est gagné, bravo !!!</translation>
+        <translation>C’est gagné, bravo&#xa0;!!!</translation>
     </message>
     <message>
         <source>Correct, Well Done!!!</source>
-        <translation>C’est gagné, bravo !!!</translation>
+        <translation>C’est gagné, bravo&#xa0;!!!</translation>
     </message>
     <message>
         <source>The Quarters are Wrong!</source>
-        <translation>Les carrés sont faux !</translation>
+        <translation>Les carrés sont faux&#xa0;!</translation>
     </message>
     <message>
         <source>The Diagonals are Wrong!</source>
-        <translation>Diagonales fausses !</translation>
+        <translation>Diagonales fausses&#xa0;!</translation>
     </message>
     <message>
         <source>Wrong, Try Again</source>
@@ -85,7 +85,7 @@
     </message>
     <message>
         <source>Row %1, column %2: </source>
-        <translation>Ligne %1, colonne %2 : </translation>
+        <translation>Ligne %1, colonne %2&#xa0;: </translation>
     </message>
     <message>
         <source>empty</source>
@@ -101,7 +101,7 @@
     </message>
     <message>
         <source>Correct in %1 seconds!!!</source>
-        <translation>C’est fini : %1 secondes !</translation>
+        <translation>C’est fini&#xa0;: %1 secondes&#xa0;!</translation>
     </message>
     <message>
         <source>%1, %2 of %3</source>
@@ -121,7 +121,7 @@
     </message>
     <message>
         <source>Tray place %1: </source>
-        <translation>Place %1 de la réserve : </translation>
+        <translation>Place %1 de la réserve&#xa0;: </translation>
     </message>
     <message>
         <source>Starts a new puzzle with these pictures</source>
@@ -143,7 +143,7 @@
     </message>
     <message>
         <source>Pimbalo cannot go on: the file &quot;%1&quot; could not be loaded (%2).</source>
-        <translation>Pimbalo ne peut pas continuer : le fichier « %1 » n’a pas pu être chargé (%2).</translation>
+        <translation>Pimbalo ne peut pas continuer&#xa0;: le fichier «&#xa0;%1&#xa0;» n’a pas pu être chargé (%2).</translation>
     </message>
     <message>
         <source>file not found</source>
@@ -158,15 +158,15 @@
     <name>FastestTimes</name>
     <message>
         <source>Pimbalo 4x4 Fastest Times</source>
-        <translation>Pimbalo 4x4 : les meilleurs temps</translation>
+        <translation>Pimbalo 4x4&#xa0;: les meilleurs temps</translation>
     </message>
     <message>
         <source>Pimbalo 5x5 Fastest Times</source>
-        <translation>Pimbalo 5x5 : les meilleurs temps</translation>
+        <translation>Pimbalo 5x5&#xa0;: les meilleurs temps</translation>
     </message>
     <message>
         <source>Pimbalo 6x6 Fastest Times</source>
-        <translation>Pimbalo 6x6 : les meilleurs temps</translation>
+        <translation>Pimbalo 6x6&#xa0;: les meilleurs temps</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -464,43 +464,43 @@
     </message>
     <message>
         <source>Pictures: polyhedra</source>
-        <translation>Images : polyèdres</translation>
+        <translation>Images&#xa0;: polyèdres</translation>
     </message>
     <message>
         <source>Pictures: cards</source>
-        <translation>Images : cartes</translation>
+        <translation>Images&#xa0;: cartes</translation>
     </message>
     <message>
         <source>Pictures: dice</source>
-        <translation>Images : dés</translation>
+        <translation>Images&#xa0;: dés</translation>
     </message>
     <message>
         <source>Pictures: faces</source>
-        <translation>Images : visages</translation>
+        <translation>Images&#xa0;: visages</translation>
     </message>
     <message>
         <source>Pictures: flags</source>
-        <translation>Images : drapeaux</translation>
+        <translation>Images&#xa0;: drapeaux</translation>
     </message>
     <message>
         <source>Pictures: patterns</source>
-        <translation>Images : motifs</translation>
+        <translation>Images&#xa0;: motifs</translation>
     </message>
     <message>
         <source>Pictures: shapes</source>
-        <translation>Images : formes</translation>
+        <translation>Images&#xa0;: formes</translation>
     </message>
     <message>
         <source>Pictures: vehicles</source>
-        <translation>Images : véhicules</translation>
+        <translation>Images&#xa0;: véhicules</translation>
     </message>
     <message>
         <source>Pictures: numbers</source>
-        <translation>Images : chiffres</translation>
+        <translation>Images&#xa0;: chiffres</translation>
     </message>
     <message>
         <source>Pictures: letters</source>
-        <translation>Images : lettres</translation>
+        <translation>Images&#xa0;: lettres</translation>
     </message>
 </context>
 <context>
