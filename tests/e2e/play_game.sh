@@ -21,6 +21,10 @@
 # control has the focus, and pressed with a key; the AT-SPI trees of the
 # options screen and of the board go to the output folder. Run as root, the
 # game is played by an ordinary user with a D-Bus session of its own.
+#
+# E2E_PLAY=boards starts the game the same way, clock on and no records yet,
+# and leaves it to board_reader.py, which reads the three boards through
+# AT-SPI (trees and the events heard go to the output folder).
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 source "$here/start_xvfb.sh"
@@ -29,8 +33,10 @@ game_exe=$1
 game_dir=$2
 out=$3
 play=${E2E_PLAY:-drag}
+reading=false  # the game read through AT-SPI, not one pointer event of ours
+[[ $play == reader || $play == boards ]] && reading=true
 
-if [[ $play == reader && $(id -u) == 0 ]]; then
+if $reading && [[ $(id -u) == 0 ]]; then
     # The player may not reach the build folder: the game, its pictures and
     # these scripts are copied to a folder of its own.
     player=pimbalo-player
@@ -49,7 +55,7 @@ if [[ $play == reader && $(id -u) == 0 ]]; then
     chmod -R a+rX "$stage"
     chown "$player" "$stage/out" "$stage/home"
     status=0
-    runuser -u "$player" -- env E2E_PLAY=reader E2E_WM="${E2E_WM:-openbox}" HOME="$stage/home" \
+    runuser -u "$player" -- env E2E_PLAY="$play" E2E_WM="${E2E_WM:-openbox}" HOME="$stage/home" \
         TMPDIR=/tmp bash "$stage/scripts/play_game.sh" "$stage/game/$(basename "$game_exe")" \
         "$stage/game" "$stage/out" || status=$?
     mkdir -p "$out"
@@ -61,7 +67,7 @@ fi
 # A real desktop (window manager, audio server) when asked for.
 source "$here/desktop.sh"
 desktop_need Xvfb xdotool import cmp
-if [[ $play == reader ]]; then
+if $reading; then
     desktop_need dbus-run-session /usr/bin/python3 "$desktop_wm"
     /usr/bin/python3 -c 'import pyatspi' 2>/dev/null || desktop_need python3-pyatspi
     # No pointer: none of the desktop checks, which click; only its window
@@ -133,12 +139,16 @@ highscore_text() {  # pairs of "line value" override the empty file
 }
 # 4x4 level 1 rank 1: 9000 s "Slowpoke"; 5x5 level 2 rank 1: 50 s "Max".
 highscore_text 1 9000 10 Slowpoke 5 50 14 Max >"$work/highscore.inf"
+if [[ $play == boards ]]; then  # sound off, clock on (its ticks are read out)
+    printf '0\r\n1\r\n0\r\n0\r\n' >"$work/lastgame.inf"
+    rm "$work/highscore.inf"
+fi
 
 export XDG_RUNTIME_DIR="$work/runtime"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 desktop_start
 start_game() {
-    if [[ $play == reader ]]; then
+    if $reading; then
         # The game on a session bus of its own with the accessibility bus
         # launched, as a desktop session has them; the bus address is left in
         # the work folder for screen_reader.py.
@@ -258,6 +268,13 @@ drag() {
     xdotool mouseup 1
     sleep 0.2
 }
+
+if [[ $play == boards ]]; then
+    wait_screen Titlefrm >/dev/null  # the bus address is written by then
+    DBUS_SESSION_BUS_ADDRESS=$(cat "$work/bus") /usr/bin/python3 "$here/board_reader.py" \
+        "$work" "$out"
+    exit 0
+fi
 
 # --- the game ------------------------------------------------------------------
 title=$(wait_screen Titlefrm)
