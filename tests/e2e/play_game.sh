@@ -157,11 +157,10 @@ start_game() {
             echo "$DBUS_SESSION_BUS_ADDRESS" >bus
             exec env QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_QPA_PLATFORM=xcb "$0"' "$game_exe") \
             >>"$out/game.log" 2>&1 &
+        game_pid=$!
     else
-        (cd "$work" && exec env QT_QPA_PLATFORM=xcb ${E2E_LANGUAGE:+LANGUAGE=$E2E_LANGUAGE} \
-            "$game_exe") >>"$out/game.log" 2>&1 &
+        start_game_again QT_QPA_PLATFORM=xcb ${E2E_LANGUAGE:+LANGUAGE=$E2E_LANGUAGE}
     fi
-    game_pid=$!
 }
 start_game
 
@@ -373,13 +372,7 @@ title=$(wait_screen Titlefrm)
 shot title-cancel
 choose Exit Return Tab "$title" 3360 7080 1575 600
 
-for _ in $(seq 100); do
-    kill -0 "$game_pid" 2>/dev/null || break
-    sleep 0.1
-done
-kill -0 "$game_pid" 2>/dev/null && fail "the game did not end on the title screen's Exit"
-wait "$game_pid" || fail "the game ended with status $?"
-game_pid=""
+expect_game_ends "on the title screen's Exit"
 
 desktop_finish
 
