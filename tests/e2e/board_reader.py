@@ -2,8 +2,8 @@
 
     board_reader.py <game folder> <output folder>
 
-Run by screen_reader.sh in a desktop session, with the end-to-end game (whose
-hook writes e2e_state.txt) starting in the game folder. It goes to each board
+Run by play_game.sh (E2E_PLAY=boards) in a desktop session, with the
+end-to-end game (whose hook writes e2e_state.txt) starting in the game folder. It goes to each board
 in turn and checks that every object there (and on the options screen) has a
 name, with no decoration; that each tray piece, tray place, grid cell and
 thumbnail is there, the pieces and thumbnails each named differently; that

@@ -320,15 +320,15 @@ desktop_after_name_entry() {
     wait_screen jigsaw >/dev/null
 }
 
-# Starts the game again in a folder of play_game.sh's making; extra
-# environment (VAR=value) goes before the program.
+# Starts the game (again) in play_game.sh's work folder; extra environment
+# (VAR=value) goes before the program. Used by play_game.sh too.
 start_game_again() {
     rm -f "$work/e2e_state.txt"
     (cd "$work" && exec env "$@" "$game_exe") >>"$out/game.log" 2>&1 &
     game_pid=$!
 }
 
-expect_game_ends() {
+expect_game_ends() {  # used by play_game.sh too
     local _
     for _ in $(seq 100); do
         kill -0 "$game_pid" 2>/dev/null || break

@@ -21,6 +21,10 @@
 # control has the focus, and pressed with a key; the AT-SPI trees of the
 # options screen and of the board go to the output folder. Run as root, the
 # game is played by an ordinary user with a D-Bus session of its own.
+#
+# E2E_PLAY=boards starts the game the same way, clock on and no records yet,
+# and leaves it to board_reader.py, which reads the three boards through
+# AT-SPI (trees and the events heard go to the output folder).
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 source "$here/start_xvfb.sh"
@@ -29,8 +33,10 @@ game_exe=$1
 game_dir=$2
 out=$3
 play=${E2E_PLAY:-drag}
+reading=false  # the game read through AT-SPI, not one pointer event of ours
+[[ $play == reader || $play == boards ]] && reading=true
 
-if [[ $play == reader && $(id -u) == 0 ]]; then
+if $reading && [[ $(id -u) == 0 ]]; then
     # The player may not reach the build folder: the game, its pictures and
     # these scripts are copied to a folder of its own.
     player=pimbalo-player
@@ -49,7 +55,7 @@ if [[ $play == reader && $(id -u) == 0 ]]; then
     chmod -R a+rX "$stage"
     chown "$player" "$stage/out" "$stage/home"
     status=0
-    runuser -u "$player" -- env E2E_PLAY=reader E2E_WM="${E2E_WM:-openbox}" HOME="$stage/home" \
+    runuser -u "$player" -- env E2E_PLAY="$play" E2E_WM="${E2E_WM:-openbox}" HOME="$stage/home" \
         TMPDIR=/tmp bash "$stage/scripts/play_game.sh" "$stage/game/$(basename "$game_exe")" \
         "$stage/game" "$stage/out" || status=$?
     mkdir -p "$out"
@@ -61,7 +67,7 @@ fi
 # A real desktop (window manager, audio server) when asked for.
 source "$here/desktop.sh"
 desktop_need Xvfb xdotool import cmp
-if [[ $play == reader ]]; then
+if $reading; then
     desktop_need dbus-run-session /usr/bin/python3 "$desktop_wm"
     /usr/bin/python3 -c 'import pyatspi' 2>/dev/null || desktop_need python3-pyatspi
     # No pointer: none of the desktop checks, which click; only its window
@@ -133,12 +139,16 @@ highscore_text() {  # pairs of "line value" override the empty file
 }
 # 4x4 level 1 rank 1: 9000 s "Slowpoke"; 5x5 level 2 rank 1: 50 s "Max".
 highscore_text 1 9000 10 Slowpoke 5 50 14 Max >"$work/highscore.inf"
+if [[ $play == boards ]]; then  # sound off, clock on (its ticks are read out)
+    printf '0\r\n1\r\n0\r\n0\r\n' >"$work/lastgame.inf"
+    rm "$work/highscore.inf"
+fi
 
 export XDG_RUNTIME_DIR="$work/runtime"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 desktop_start
 start_game() {
-    if [[ $play == reader ]]; then
+    if $reading; then
         # The game on a session bus of its own with the accessibility bus
         # launched, as a desktop session has them; the bus address is left in
         # the work folder for screen_reader.py.
@@ -147,11 +157,10 @@ start_game() {
             echo "$DBUS_SESSION_BUS_ADDRESS" >bus
             exec env QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_QPA_PLATFORM=xcb "$0"' "$game_exe") \
             >>"$out/game.log" 2>&1 &
+        game_pid=$!
     else
-        (cd "$work" && exec env QT_QPA_PLATFORM=xcb ${E2E_LANGUAGE:+LANGUAGE=$E2E_LANGUAGE} \
-            "$game_exe") >>"$out/game.log" 2>&1 &
+        start_game_again QT_QPA_PLATFORM=xcb ${E2E_LANGUAGE:+LANGUAGE=$E2E_LANGUAGE}
     fi
-    game_pid=$!
 }
 start_game
 
@@ -259,6 +268,13 @@ drag() {
     sleep 0.2
 }
 
+if [[ $play == boards ]]; then
+    wait_screen Titlefrm >/dev/null  # the bus address is written by then
+    DBUS_SESSION_BUS_ADDRESS=$(cat "$work/bus") /usr/bin/python3 "$here/board_reader.py" \
+        "$work" "$out"
+    exit 0
+fi
+
 # --- the game ------------------------------------------------------------------
 title=$(wait_screen Titlefrm)
 desktop_on_title
@@ -356,13 +372,7 @@ title=$(wait_screen Titlefrm)
 shot title-cancel
 choose Exit Return Tab "$title" 3360 7080 1575 600
 
-for _ in $(seq 100); do
-    kill -0 "$game_pid" 2>/dev/null || break
-    sleep 0.1
-done
-kill -0 "$game_pid" 2>/dev/null && fail "the game did not end on the title screen's Exit"
-wait "$game_pid" || fail "the game ended with status $?"
-game_pid=""
+expect_game_ends "on the title screen's Exit"
 
 desktop_finish
 

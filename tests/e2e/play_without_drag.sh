@@ -1,6 +1,6 @@
 # Sourced by play_game.sh when E2E_PLAY is "click" or "keys": plays the board
 # without a single drag, with the state hook's "move", "place", "layout"
-# and "picked" lines. Uses play_game.sh's state, fail and shot.
+# and "picked" lines. Uses play_game.sh's state, fail, shot and press_key.
 
 # Waits until the hook reports `picked <piece>` (-1: nothing picked).
 wait_picked() {
@@ -29,11 +29,6 @@ play_by_click() {
     done
 }
 
-keys() {
-    xdotool key --delay 40 "$@"
-    sleep 0.1
-}
-
 # Arrow keys from one index to another in a grid `columns` wide; going up
 # first when the target row is higher, so no step leaves the tray's short
 # last row sideways.
@@ -60,21 +55,21 @@ play_by_keys() {
     [[ -n $columns ]] || fail "the board reported no layout"
     mapfile -t places < <(state | awk '$1 == "place" { print $2, $3 }')
     echo "placing ${#places[@]} pieces with the keyboard"
-    keys Tab  # the first key only shows the ring, on the tray's first slot
+    press_key Tab  # the first key only shows the ring, on the tray's first slot
     for place in "${places[@]}"; do
         read -r piece cell <<<"$place"
         # shellcheck disable=SC2046
-        keys $(route "$slot" "$piece" "$columns") Return
+        press_key $(route "$slot" "$piece" "$columns") Return
         wait_picked "$piece"
         # shellcheck disable=SC2046
-        keys Tab $(route "$at" "$cell" "$n")
+        press_key Tab $(route "$at" "$cell" "$n")
         if ((first)); then
             shot picked-by-keys
             first=0
         fi
-        keys space
+        press_key space
         wait_picked -1
-        keys shift+Tab
+        press_key shift+Tab
         slot=$piece
         at=$cell
     done

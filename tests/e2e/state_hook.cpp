@@ -21,26 +21,19 @@
 // Every sound the game plays is appended to "e2e_sounds.txt" as
 // "<file> <milliseconds since the epoch>", so that a recording of the audio
 // server can be matched with the events that played it.
-#include <QApplication>
 #include <QDateTime>
-#include <QFile>
-#include <QLineEdit>
-#include <QTimer>
-#include <cstdio>
 #include <sstream>
-#include <string>
 
 #include "board/board_screen.h"
 #include "platform/form.h"
 #include "platform/sound.h"
 #include "records/highscores.h"
+#include "state_report.h"
 #include "tables/screens.h"
 
 namespace {
 
-QPoint centreOf(const QWidget& control) {
-    return control.mapToGlobal(control.rect().center());
-}
+using e2e::centreOf;
 
 // Every piece that is not given, from where it lies to the cell it solves, as
 // window positions and as indices; and what the player has picked.
@@ -80,11 +73,7 @@ std::string describeScreens() {
         if (auto* board = dynamic_cast<board::Board*>(form)) writeBoard(out, *board);
         if (auto* scores = dynamic_cast<records::Highscores*>(form)) writeNames(out, *scores);
     }
-    if (auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-        box && box->isVisible()) {
-        const QPoint centre = centreOf(*box);
-        out << "textbox " << centre.x() << ' ' << centre.y() << '\n';
-    }
+    e2e::writeTextBox(out);
     out << "platform " << QGuiApplication::platformName().toStdString() << '\n';
     return out.str();
 }
@@ -97,21 +86,8 @@ void logSound(const std::string& file) {
     log.write(line.data(), static_cast<qint64>(line.size()));
 }
 
-// Written beside and renamed over, so the script never reads half a file.
-void publish(const std::string& text) {
-    static std::string last;
-    if (text == last) return;
-    QFile tmp(QStringLiteral("e2e_state.txt.tmp"));
-    if (!tmp.open(QIODevice::WriteOnly)) return;
-    tmp.write(text.data(), static_cast<qint64>(text.size()));
-    tmp.close();
-    if (std::rename("e2e_state.txt.tmp", "e2e_state.txt") == 0) last = text;
-}
-
 void installStateHook() {
-    auto* timer = new QTimer(QCoreApplication::instance());
-    QObject::connect(timer, &QTimer::timeout, [] { publish(describeScreens()); });
-    timer->start(100);
+    e2e::reportEvery100ms(QStringLiteral("e2e_state.txt"), describeScreens);
     platform::setSoundObserver(logSound);
 }
 

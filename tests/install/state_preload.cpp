@@ -9,24 +9,16 @@
 //   screen <name> <x> <y>         client-area origin of a shown screen
 //   move <fx> <fy> <tx> <ty>      piece centre to the centre of a cell it solves
 //   textbox <x> <y>               centre of the text box holding the focus
-#include <QApplication>
-#include <QFile>
-#include <QLineEdit>
-#include <QTimer>
-#include <QWidget>
-#include <cstdio>
-#include <functional>
 #include <map>
 #include <sstream>
 #include <vector>
 
+#include "../e2e/state_report.h"
 #include "tables/screens.h"
 
 namespace {
 
-QPoint centreOf(const QWidget& control) {
-    return control.mapToGlobal(control.rect().center());
-}
+using e2e::centreOf;
 
 // The regions besides rows and columns, as the rules screen tells them:
 // region number of cell (x, y) for each kind, -1 when the cell is in none.
@@ -115,31 +107,14 @@ std::string describeScreens() {
         if (const int boardsize = tables::boardsizeOf(screen); boardsize >= 0)
             writeMoves(out, *form, boardsize + 4);
     }
-    if (auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-        box && box->isVisible()) {
-        const QPoint centre = centreOf(*box);
-        out << "textbox " << centre.x() << ' ' << centre.y() << '\n';
-    }
+    e2e::writeTextBox(out);
     return out.str();
-}
-
-// Written beside and renamed over, so the script never reads half a file.
-void publish(const QString& path, const std::string& text) {
-    static std::string last;
-    if (text == last) return;
-    QFile tmp(path + QStringLiteral(".tmp"));
-    if (!tmp.open(QIODevice::WriteOnly)) return;
-    tmp.write(text.data(), static_cast<qint64>(text.size()));
-    tmp.close();
-    if (std::rename(qPrintable(tmp.fileName()), qPrintable(path)) == 0) last = text;
 }
 
 void installStateHook() {
     const QString path = qEnvironmentVariable("PIMBALO_E2E_STATE");
     if (path.isEmpty() || !qobject_cast<QApplication*>(QCoreApplication::instance())) return;
-    auto* timer = new QTimer(QCoreApplication::instance());
-    QObject::connect(timer, &QTimer::timeout, [path] { publish(path, describeScreens()); });
-    timer->start(100);
+    e2e::reportEvery100ms(path, describeScreens);
 }
 
 }  // namespace
