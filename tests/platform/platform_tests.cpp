@@ -1,9 +1,9 @@
 // The platform layer under the screens: file lookup, twips placement, control
 // arrays, the screen model, value-change events and window placing.
 #include <QAccessible>
-#include <QStyle>
 #include <QDir>
 #include <QFile>
+#include <QStyle>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <stdexcept>
