@@ -1,6 +1,6 @@
-// What a board tells assistive technology: the commands are buttons named by
-// their captions, the level number, the clock and the result banner read out
-// their captions, each grid cell its row, column and picture, each piece its
+// What a board tells assistive technology (its commands are made buttons
+// where they are wired): the level number, the clock and the result banner
+// read out their captions, each grid cell its row, column and picture, each piece its
 // picture and where it lies, each tray place what it holds, and each
 // thumbnail its picture set. The keyboard's ring is the focus a screen reader
 // follows; the logo, the markers, the regions and the marks are decoration.
@@ -48,13 +48,6 @@ QString Board::spokenPicture(int piece) const {
 }
 
 void Board::describeControls() {
-    Label3.forEach([this](int i, platform::Label& command) {
-        platform::setAccessibleText(command, {QAccessible::Button,
-                                              [&command] { return captionOf(command); },
-                                              [] { return said(text::kCommandDescription); },
-                                              [this, i] { runCommand(i); },
-                                              {}});
-    });
     // The verdict is a notification: screen readers say it as it shows.
     const std::tuple<platform::Label*, const char*, QAccessible::Role> readOuts[] = {
         {&Label1(0), text::kLevelDescription, QAccessible::StaticText},

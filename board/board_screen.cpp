@@ -169,7 +169,9 @@ void Board::wireEvents() {
         };
         command.on.click = [this, i] { runCommand(i); };
         // The ring walks the commands (hand_play.cpp) and hands them the focus.
-        command.makeCommand(platform::CommandFocus::GivenByScreen);
+        command.makeCommand(platform::CommandFocus::GivenByScreen, [] {
+            return platform::translated("Board", tables::board_text::kCommandDescription);
+        });
     };
     Timer1.onTimer = [this] { Timer1_Timer(); };
     Timer2.onTimer = [this] { Timer2_Timer(); };

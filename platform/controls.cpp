@@ -185,14 +185,14 @@ void drawFocusBand(QPainter& painter, const QRect& outer) {
     }
 }
 
-void Label::makeCommand(CommandFocus focus) {
+void Label::makeCommand(CommandFocus focus, std::function<QString()> description) {
     command_ = true;
     // A screen that hands the focus over keeps Qt from giving it by Tab or
     // when the window comes up; it can still set it.
     setFocusPolicy(focus == CommandFocus::ByTab ? Qt::TabFocus : Qt::NoFocus);
     setAccessibleText(*this, {QAccessible::Button,
                               [this] { return text(); },
-                              {},
+                              std::move(description),
                               [this] {
                                   if (on.click) on.click();
                               },
@@ -292,6 +292,14 @@ static void describeButton(QAbstractButton& button, QAccessible::Role role) {
                                [&button] { return button.isChecked(); }});
 }
 
+// Enter selects or ticks a box as Space does; true when it took the key.
+static bool enterClicks(QAbstractButton& button, QKeyEvent& e) {
+    if (!plainKey(e) || (e.key() != Qt::Key_Return && e.key() != Qt::Key_Enter)) return false;
+    e.accept();
+    if (!e.isAutoRepeat()) button.click();
+    return true;
+}
+
 OptionButton::OptionButton(QWidget* parent) : Placed<QRadioButton>(parent) {
     QObject::connect(this, &QRadioButton::toggled, [this](bool on) {
         if (on && onSelect) onSelect();
@@ -300,12 +308,7 @@ OptionButton::OptionButton(QWidget* parent) : Placed<QRadioButton>(parent) {
 }
 
 void OptionButton::keyPressEvent(QKeyEvent* e) {
-    if (plainKey(*e) && (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter)) {
-        e->accept();
-        if (!e->isAutoRepeat()) click();
-        return;
-    }
-    QRadioButton::keyPressEvent(e);
+    if (!enterClicks(*this, *e)) QRadioButton::keyPressEvent(e);
 }
 
 void OptionButton::paintEvent(QPaintEvent* e) {
@@ -321,12 +324,7 @@ CheckBox::CheckBox(QWidget* parent) : Placed<QCheckBox>(parent) {
 }
 
 void CheckBox::keyPressEvent(QKeyEvent* e) {
-    if (plainKey(*e) && (e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter)) {
-        e->accept();
-        if (!e->isAutoRepeat()) click();
-        return;
-    }
-    QCheckBox::keyPressEvent(e);
+    if (!enterClicks(*this, *e)) QCheckBox::keyPressEvent(e);
 }
 
 void CheckBox::paintEvent(QPaintEvent* e) {

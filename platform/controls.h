@@ -180,8 +180,10 @@ class Label : public Clickable<QLabel> {
     // use as well as the pointer: with the focus, Space or Enter run
     // on.click; a focus taken by Tab shows as a band just inside the label's
     // edge, so nothing moves or changes size; screen readers see a push
-    // button named by the caption as shown, which they can press.
-    void makeCommand(CommandFocus focus = CommandFocus::ByTab);
+    // button named by the caption as shown, which they can press, with the
+    // description given, if any.
+    void makeCommand(CommandFocus focus = CommandFocus::ByTab,
+                     std::function<QString()> description = {});
     bool isCommand() const { return command_; }
 
   protected:
